@@ -61,7 +61,7 @@ bool isSkipped(const Control &control)
 {
     const QString &name = control.name();
     return name.startsWith("mnu"_L1) || name.startsWith("Data"_L1) || name.startsWith("tmr"_L1)
-        || name == "CheckDigit1"_L1 || name == "CommonDialog1"_L1;
+           || name == "CheckDigit1"_L1 || name == "CommonDialog1"_L1;
 }
 
 std::vector<Control *> controlsIn(QStringView container, Form &form)

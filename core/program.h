@@ -28,7 +28,10 @@ private:
 
 /// The run of the program: what lives as long as it does and is read by many screens. There is one, owned by main.
 struct Program {
-    explicit Program(Platform &platformOfRun) : platform(platformOfRun) {}
+    explicit Program(Platform &platformOfRun)
+        : platform(platformOfRun)
+    {
+    }
 
     Platform &platform;
     Catalogue catalogue;
@@ -36,17 +39,17 @@ struct Program {
     QString StoreConnectionString; ///< built when the login screen loads
     QString ProgramVersion;        ///< the version text behind every title that holds it
     QString UserFullName;
-    bool IsSupervisor = false;     ///< shown at the login and stored; every user may do everything
-    QString PayerTFN;              ///< the payer's file number, in all queries of the four data tables
+    bool IsSupervisor = false; ///< shown at the login and stored; every user may do everything
+    QString PayerTFN;          ///< the payer's file number, in all queries of the four data tables
     QString PayerCodeShobe;
     qint16 PayerMMoadiType = 0;
     qint16 PayerSMoadiType = 0;
     qint16 PayerMohasebeType = 0;
-    QString PrevSoftVersion;       ///< the version for which the first-run question came last
-    QString HogogPath;             ///< WH file handed from the writer to the check screen
-    QString KholPath;              ///< WK file likewise
-    QString SearchCallerName;      ///< who opened the payee search
-    QString SelectedMelliCode;     ///< the payee picked there
+    QString PrevSoftVersion;   ///< the version for which the first-run question came last
+    QString HogogPath;         ///< WH file handed from the writer to the check screen
+    QString KholPath;          ///< WK file likewise
+    QString SearchCallerName;  ///< who opened the payee search
+    QString SelectedMelliCode; ///< the payee picked there
 };
 
 } // namespace zrv

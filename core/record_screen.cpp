@@ -23,8 +23,7 @@ bool RecordScreen::requiredAreFilled(QStringView container)
     const RequiredFields fields = CheckRequired(container, *this);
     if (fields.allFilled())
         return true;
-    messageBox(box::Refusal, u" اخطار  "_s,
-               u"  مقداردهي مواردي که با رنگ زمينه متمايز گرديده اند الزامي ميباشد "_s);
+    messageBox(box::Refusal, u" اخطار  "_s, u"  مقداردهي مواردي که با رنگ زمينه متمايز گرديده اند الزامي ميباشد "_s);
     fields.firstEmpty->setFocus();
     return false;
 }

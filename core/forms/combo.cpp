@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/forms/controls.h"
 #include "core/basic/letter_fold.h"
+#include "core/forms/controls.h"
 
 #include <utility>
 

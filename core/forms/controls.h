@@ -18,7 +18,7 @@ struct TextBoxLook {
     int limit = 0;
     QString tag = {};
     QString toolTip = {};
-    QChar password = {};     ///< shown instead of each letter
+    QChar password = {}; ///< shown instead of each letter
     bool multiLine = false;
     bool locked = false;
     bool visible = true;

@@ -89,7 +89,11 @@ bool Form::carryOut(const std::function<void()> &action)
 {
     struct Depth {
         int &depth;
-        explicit Depth(int &d) : depth(d) { ++depth; }
+        explicit Depth(int &d)
+            : depth(d)
+        {
+            ++depth;
+        }
         ~Depth() { --depth; }
     } const running(m_depth);
     try {
@@ -200,53 +204,53 @@ bool Form::userChoose(Combo &combo, int row)
 bool Form::userChoose(ListBox &list, int row)
 {
     return accepts(list) && carryOut([&] {
-        giveFocus(&list);
-        list.setListIndex(row);
-    });
+               giveFocus(&list);
+               list.setListIndex(row);
+           });
 }
 
 bool Form::userCheckItem(ListBox &list, int row, bool checked)
 {
     return accepts(list) && carryOut([&] {
-        giveFocus(&list);
-        list.setItemChecked(row, checked);
-    });
+               giveFocus(&list);
+               list.setItemChecked(row, checked);
+           });
 }
 
 bool Form::userCheck(Control &checkOrOption, bool checked)
 {
     return accepts(checkOrOption) && carryOut([&] {
-        giveFocus(&checkOrOption);
-        if (checkOrOption.kind() == ControlKind::CheckBox)
-            static_cast<CheckBox &>(checkOrOption).setChecked(checked);
-        else
-            static_cast<OptionButton &>(checkOrOption).setChecked(checked);
-    });
+               giveFocus(&checkOrOption);
+               if (checkOrOption.kind() == ControlKind::CheckBox)
+                   static_cast<CheckBox &>(checkOrOption).setChecked(checked);
+               else
+                   static_cast<OptionButton &>(checkOrOption).setChecked(checked);
+           });
 }
 
 bool Form::userRow(Grid &grid, int row, int column)
 {
     return accepts(grid) && carryOut([&] {
-        giveFocus(&grid);
-        grid.setCurrent(row, column);
-    });
+               giveFocus(&grid);
+               grid.setCurrent(row, column);
+           });
 }
 
 bool Form::userHead(Grid &grid, int column)
 {
     return accepts(grid) && carryOut([&] {
-        giveFocus(&grid);
-        if (grid.onHeadClick)
-            grid.onHeadClick(column);
-    });
+               giveFocus(&grid);
+               if (grid.onHeadClick)
+                   grid.onHeadClick(column);
+           });
 }
 
 bool Form::userPage(Tabs &tabs, int page)
 {
     return accepts(tabs) && carryOut([&] {
-        giveFocus(&tabs);
-        tabs.setPage(page);
-    });
+               giveFocus(&tabs);
+               tabs.setPage(page);
+           });
 }
 
 bool Form::userClose()

@@ -103,9 +103,17 @@ protected:
     virtual void Form_Activate() {}
     /// The form's look at each key before its controls; 0 drops the key.
     virtual void Form_KeyPress(int &keyAscii) { Q_UNUSED(keyAscii); }
-    virtual bool Form_KeyDown(Key key) { Q_UNUSED(key); return false; }
+    virtual bool Form_KeyDown(Key key)
+    {
+        Q_UNUSED(key);
+        return false;
+    }
     /// False keeps the form open.
-    virtual bool Form_QueryUnload(UnloadMode mode) { Q_UNUSED(mode); return true; }
+    virtual bool Form_QueryUnload(UnloadMode mode)
+    {
+        Q_UNUSED(mode);
+        return true;
+    }
     virtual void Form_Unload() {}
     /// A failure that a routine let go: tells the user. The screen keeps its state.
     virtual void failed(const RunTimeError &failure) = 0;

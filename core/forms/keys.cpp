@@ -67,7 +67,7 @@ bool Form::userLetter(QChar letter)
     return carryOut([&] {
         Control &control = *m_active;
         const bool isSwitch = control.kind() == ControlKind::Button || control.kind() == ControlKind::CheckBox
-            || control.kind() == ControlKind::OptionButton;
+                              || control.kind() == ControlKind::OptionButton;
         if (isSwitch && letter == u' ') {
             if (control.kind() == ControlKind::CheckBox)
                 static_cast<CheckBox &>(control).setChecked(!static_cast<CheckBox &>(control).isChecked());

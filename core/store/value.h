@@ -12,9 +12,18 @@ namespace zrv {
 class Value {
 public:
     Value() = default;
-    Value(QString text) : m_cell(std::move(text)) {}
-    Value(qint64 number) : m_cell(number) {}
-    Value(double number) : m_cell(number) {}
+    Value(QString text)
+        : m_cell(std::move(text))
+    {
+    }
+    Value(qint64 number)
+        : m_cell(number)
+    {
+    }
+    Value(double number)
+        : m_cell(number)
+    {
+    }
 
     [[nodiscard]] bool isNull() const { return std::holds_alternative<std::monostate>(m_cell); }
     [[nodiscard]] bool isText() const { return std::holds_alternative<QString>(m_cell); }
