@@ -16,26 +16,72 @@ class Form;
 
 /// What the window side makes of a control: one binder per kind.
 enum class ControlKind {
-    // clang-format off
-    TextBox, Label, Button, OptionButton, CheckBox, ComboBox, DataCombo, ListBox,
-    Grid, Frame, Picture, Tabs, StatusPanel, MenuItem, Timer,
-    // clang-format on
+    TextBox,
+    Label,
+    Button,
+    OptionButton,
+    CheckBox,
+    ComboBox,
+    DataCombo,
+    ListBox,
+    Grid,
+    Frame,
+    Picture,
+    Tabs,
+    StatusPanel,
+    MenuItem,
+    Timer,
 };
 
 /// The part of a control that changed, told to the form's view.
 enum class Aspect {
-    // clang-format off
-    Text, Selection, Caption, Enabled, Visible, Locked, Colors, Limit, ToolTip, Checked, DefaultOrCancel,
-    Items, Rows, Columns, CurrentRow, Page, Interval,
-    // clang-format on
+    Text,
+    Selection,
+    Caption,
+    Enabled,
+    Visible,
+    Locked,
+    Colors,
+    Limit,
+    ToolTip,
+    Checked,
+    DefaultOrCancel,
+    Items,
+    Rows,
+    Columns,
+    CurrentRow,
+    Page,
+    Interval,
 };
 
 /// The keys that are no letters. Enter, Escape and Backspace also run through the key filter as 13, 27 and 8.
 enum class Key {
-    // clang-format off
-    Enter, Escape, Tab, Backtab, Backspace, Delete, Left, Right, Up, Down, Home, End, PageUp, PageDown,
-    F1, F2, F3, F4, F5, F6, F7, F8, F9, F10, F11, F12,
-    // clang-format on
+    Enter,
+    Escape,
+    Tab,
+    Backtab,
+    Backspace,
+    Delete,
+    Left,
+    Right,
+    Up,
+    Down,
+    Home,
+    End,
+    PageUp,
+    PageDown,
+    F1,
+    F2,
+    F3,
+    F4,
+    F5,
+    F6,
+    F7,
+    F8,
+    F9,
+    F10,
+    F11,
+    F12,
 };
 
 /// What every control has. Controls are members of their screen, declared in tab order; a control registers
