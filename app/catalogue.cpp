@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/catalogue.h"
+
+#include "core/basic/run_time_error.h"
+#include "core/frmAbout.h"
+#include "core/frmEncodeDecode.h"
+#include "core/frmEnterance_Door.h"
+#include "core/frmMain.h"
+
+namespace zrv {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+template <class ScreenClass>
+std::unique_ptr<Screen> makeScreen(Program &program)
+{
+    return std::make_unique<ScreenClass>(program);
+}
+
+} // namespace
+
+void fillCatalogue(Catalogue &catalogue)
+{
+    catalogue.add(u"frmEnterance_Door"_s, makeScreen<frmEnterance_Door>);
+    catalogue.add(u"frmMain"_s, makeScreen<frmMain>);
+    catalogue.add(u"frmAbout"_s, makeScreen<frmAbout>);
+    catalogue.add(u"frmEncodeDecode"_s, makeScreen<frmEncodeDecode>);
+}
+
+void runProgram(Platform &platform)
+{
+    Program program(platform);
+    fillCatalogue(program.catalogue);
+    try {
+        const std::unique_ptr<Screen> login = program.catalogue.make(u"frmEnterance_Door"_s, program);
+        login->load();
+        if (login->isOpen())
+            platform.runModal(*login);
+    } catch (const ProgramEnd &) {
+        // The screens are gone by now; what is left of the run goes with this routine.
+    }
+}
+
+} // namespace zrv
