@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// The platform of a desktop: real windows and boxes, the machine's clock and folders, the user's settings.
+//
+// The player of scenarios derives from it: it overrides the boxes, the file choice, the clock, the folders and the
+// settings, and waitWhileOpen to act on the windows itself instead of leaving that to a user. A form's window is
+// windowOf(form), a control's widget FormWindow::widgetFor(control). After each event that it sends, isEnding()
+// tells whether a screen has ended the program; waitWhileOpen must then return.
+
+#include "core/platform/platform.h"
+
+#include <functional>
+#include <vector>
+
+class QEventLoop;
+class QWidget;
+
+namespace zrv {
+
+class FormWindow;
+
+class QtPlatform : public Platform {
+public:
+    QtPlatform();
+    ~QtPlatform() override;
+    QtPlatform(const QtPlatform &) = delete;
+    QtPlatform &operator=(const QtPlatform &) = delete;
+
+    Answer messageBox(int style, const QString &title, const QString &text) override;
+    void runModal(Form &form) override;
+    std::optional<QString> openFileDialog(const QString &folder, const QString &filter) override;
+    void viewFile(const QString &path) override;
+    QSize displaySize() override;
+    QDate today() override;
+    QTime timeOfDay() override;
+    QString programFolder() override;
+    QString desktopFolder() override;
+    QString setting(const QString &section, const QString &key, const QString &fallback) override;
+    void saveSetting(const QString &section, const QString &key, const QString &value) override;
+    quint32 keyboardLayout() override;
+    void activateKeyboardLayout(quint32 layout) override;
+    void yield() override;
+
+    /// The window of an open form; null when it has none.
+    [[nodiscard]] FormWindow *windowOf(const Form &form) const;
+    /// The window above all others; null before the first.
+    [[nodiscard]] FormWindow *topWindow() const;
+
+    /// The one way from Qt into a screen's code: nothing that the action throws gets into Qt. ProgramEnd ends all
+    /// nested loops and is thrown on by runModal when its own loop is over; any other failure is shown in a box.
+    void enter(const std::function<void()> &action);
+    /// A screen has ended the program; the loops are on their way out.
+    [[nodiscard]] bool isEnding() const { return m_ending; }
+
+protected:
+    /// Returns when the form is closed or the program is ending. The form's window is shown and activated by then.
+    virtual void waitWhileOpen(Form &form);
+
+    /// Runs a loop of events until `isOver` holds or the program is ending; events may change what it says.
+    void waitUntil(const std::function<bool()> &isOver);
+    /// Lets the innermost waitUntil look again.
+    void wake();
+
+private:
+    friend class FormWindow;
+
+    void end();
+
+    std::vector<FormWindow *> m_windows; ///< open ones, the topmost last
+    std::vector<QEventLoop *> m_loops;   ///< running ones, the innermost last
+    quint32 m_layout = 0;                ///< the layout last asked for, 0 before
+    bool m_ending = false;
+};
+
+} // namespace zrv
