@@ -12,6 +12,7 @@ namespace zrv {
 class Value {
 public:
     Value() = default;
+    // NOLINTBEGIN(google-explicit-constructor): a row is written as its texts and numbers.
     Value(QString text)
         : m_cell(std::move(text))
     {
@@ -24,6 +25,7 @@ public:
         : m_cell(number)
     {
     }
+    // NOLINTEND(google-explicit-constructor)
 
     [[nodiscard]] bool isNull() const { return std::holds_alternative<std::monostate>(m_cell); }
     [[nodiscard]] bool isText() const { return std::holds_alternative<QString>(m_cell); }
