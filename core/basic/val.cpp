@@ -3,7 +3,6 @@
 
 #include "core/basic/text.h"
 
-#include <QByteArrayView>
 #include <QVarLengthArray>
 
 #include <algorithm>
@@ -15,7 +14,7 @@ namespace zrv {
 namespace {
 
 /// A number as found in a text, reduced to what every converter reads: [-]digits[.digits][e[sign]digits].
-using PlainNumber = QVarLengthArray<char, 48>;
+using PlainNumber = QVarLengthArray<char16_t, 48>;
 
 constexpr bool isStrewnBlank(QChar letter)
 {
@@ -67,7 +66,7 @@ private:
 void takeSign(Letters &letters, PlainNumber &number)
 {
     if (letters.current() == u'-')
-        number.append('-');
+        number.append(u'-');
     if (letters.current() == u'-' || letters.current() == u'+')
         letters.next();
 }
@@ -81,7 +80,7 @@ qsizetype takeDigits(Letters &letters, PlainNumber &number, Commas commas = Comm
     for (;; letters.next()) {
         const char16_t letter = letters.current();
         if (isAsciiDigit(letter)) {
-            number.append(char(letter));
+            number.append(letter);
             ++taken;
         } else if (letter != u',' || commas == Commas::EndTheNumber || taken == 0) {
             return taken;
@@ -97,7 +96,7 @@ void takeExponent(Letters &letters, PlainNumber &number)
     Letters ahead = letters;
     ahead.next();
     PlainNumber exponent;
-    exponent.append('e');
+    exponent.append(u'e');
     takeSign(ahead, exponent);
     if (takeDigits(ahead, exponent) == 0)
         return;
@@ -114,8 +113,8 @@ PlainNumber takeNumber(Letters &letters, Commas commas)
     if (letters.current() == u'.') {
         letters.next();
         if (digits == 0)
-            number.append('0');
-        number.append('.');
+            number.append(u'0');
+        number.append(u'.');
         const qsizetype decimals = takeDigits(letters, number);
         if (decimals == 0)
             number.removeLast();
@@ -130,7 +129,7 @@ PlainNumber takeNumber(Letters &letters, Commas commas)
 /// Infinite beyond the range of double.
 double toDouble(const PlainNumber &number)
 {
-    return QByteArrayView(number.constData(), number.size()).toDouble();
+    return QStringView(number).toDouble();
 }
 
 PlainNumber leadingNumber(QStringView text)
@@ -183,14 +182,14 @@ qint64 wholeVal(QStringView text)
     if (const auto whole = shortWhole(text))
         return *whole;
     const PlainNumber number = leadingNumber(text);
-    if (std::find(number.cbegin(), number.cend(), 'e') != number.cend())
+    if (std::find(number.cbegin(), number.cend(), u'e') != number.cend())
         return saturated(toDouble(number));
 
-    const bool negative = !number.isEmpty() && number.front() == '-';
+    const bool negative = !number.isEmpty() && number.front() == u'-';
     constexpr qint64 Largest = std::numeric_limits<qint64>::max();
     qint64 whole = 0;
-    for (qsizetype i = negative ? 1 : 0; i < number.size() && number[i] != '.'; ++i) {
-        const qint64 digit = number[i] - '0';
+    for (qsizetype i = negative ? 1 : 0; i < number.size() && number[i] != u'.'; ++i) {
+        const qint64 digit = number[i] - u'0';
         if (whole > (Largest - digit) / 10)
             return negative ? std::numeric_limits<qint64>::min() : Largest;
         whole = whole * 10 + digit;
