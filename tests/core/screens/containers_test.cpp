@@ -111,6 +111,21 @@ TEST(Containers, DisablingChangesNoColour)
     EXPECT_EQ(form.txtOne.backColor(), color::DataField);
 }
 
+TEST(Containers, EveryKindThatTheWalkNamesIsSwitchedOffAndOn)
+{
+    AllKinds form;
+    const std::vector<Control *> named{&form.txtOne,     &form.lblOne,     &form.dcbOne,    &form.cmbOne,
+                                       &form.lstOne,     &form.chkOne,     &form.optOne,    &form.OptTwo,
+                                       &form.dbgOne,     &form.picBox,     &form.PicBox,    &form.fraBox,
+                                       &form.txtInFrame, &form.cmbInFrame, &form.picInFrame};
+    DisableContainer(u"framData", form);
+    for (const Control *control : named)
+        EXPECT_FALSE(control->isEnabled()) << qPrintable(control->name());
+    EnableContainer(u"framData", form);
+    for (const Control *control : named)
+        EXPECT_TRUE(control->isEnabled()) << qPrintable(control->name());
+}
+
 TEST(Containers, KindsThatTheWalkDoesNotNameAreLeftAlone)
 {
     AllKinds form;
