@@ -21,7 +21,7 @@ constexpr auto SixBits = [] {
     std::array<qint8, 128> bits{};
     bits.fill(-1);
     for (int i = 0; i < 64; ++i)
-        bits[std::size_t(Alphabet[i])] = qint8(i);
+        bits[uchar(Alphabet[i])] = qint8(i);
     bits['='] = 0;
     return bits;
 }();

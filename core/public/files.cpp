@@ -49,7 +49,7 @@ constexpr std::array<FolderFailure, 5> FolderFailures = {{
 
 bool copyContents(QFile &source, QSaveFile &target)
 {
-    constexpr qint64 BlockSize = 1024 * 1024;
+    constexpr qint64 BlockSize = qint64(1024) * 1024;
     while (!source.atEnd()) {
         const QByteArray block = source.read(BlockSize);
         if (block.isEmpty() || target.write(block) != block.size())

@@ -3,10 +3,8 @@
 
 #include "core/basic/run_time_error.h"
 
-namespace zrv {
-
 /// The numbers under which the store reports failures; the screens test for some of them.
-namespace store_error {
+namespace zrv::store_error {
 
 inline constexpr qint32 General =
     static_cast<qint32>(0x80004005); ///< key clash, row already present, file missing or busy
@@ -17,6 +15,4 @@ inline constexpr qint32 ColumnChange = static_cast<qint32>(0x80040E21);  ///< a 
 inline constexpr qint32 MissingTable = static_cast<qint32>(0x80040E37);  ///< a table that the store lacks
 inline constexpr qint32 ValueTooLong = static_cast<qint32>(0x80040E57);  ///< a text longer than its column
 
-} // namespace store_error
-
-} // namespace zrv
+} // namespace zrv::store_error

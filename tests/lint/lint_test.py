@@ -77,7 +77,7 @@ class LintTest(unittest.TestCase):
         self.assertEqual(self.findings("connects", {"qt/a.cpp": "// no SIGNAL(x())\nconnect(a, &A::x, b, f);\n"}), [])
 
     def test_words_that_lead_out_of_the_repository_are_found(self):
-        for word in ("/ho" + "me/me/x", "Part" + " 1.3", "TO" + "DO later", "spec" + "ification", "iss" + "ue 7"):
+        for word in ("/ro" + "ot/x", "Part" + " 1.3", "TO" + "DO later", "spec" + "ification", "iss" + "ue 7"):
             self.assert_one("words", {"core/a.h": f"// see {word}\n"}, "core/a.h:1:")
         self.assertEqual(self.findings("words", {"README.md": "build/dev/bin, part of it, special, /usr/share\n"}), [])
 
