@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/store/dialect/scope.h"
+#include "core/store/dialect/statement.h"
+
+namespace zrv::dialect {
+
+/// A SELECT in SQLite's SQL.
+struct Query {
+    QString sql;
+    QString countSql; ///< gives the number of its rows
+    std::vector<ScopeColumn> columns;
+};
+
+[[nodiscard]] Query translate(const Select &select, Catalog &catalog);
+
+/// An INSERT, UPDATE or DELETE in SQLite's SQL.
+[[nodiscard]] QString translate(const Insert &insert, Catalog &catalog);
+[[nodiscard]] QString translate(const Update &update, Catalog &catalog);
+[[nodiscard]] QString translate(const Delete &statement, Catalog &catalog);
+
+} // namespace zrv::dialect
