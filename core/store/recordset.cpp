@@ -1,0 +1,135 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/store/recordset.h"
+
+#include "core/basic/run_time_error.h"
+#include "core/store/dialect/tokens.h"
+#include "core/store/dialect/translate.h"
+#include "core/store/store_file.h"
+
+#include <sqlite3.h>
+
+namespace zrv {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr qint32 NoCurrentRow = 3021;
+constexpr qint32 NoSuchColumn = 3265;
+
+dialect::Query translated(const QString &select, StoreFile &file)
+{
+    const dialect::Statement statement = dialect::parse(select);
+    if (!std::holds_alternative<dialect::Select>(statement))
+        dialect::refuse(select);
+    return translate(std::get<dialect::Select>(statement), file);
+}
+
+} // namespace
+
+struct Recordset::Cursor {
+    Cursor(std::shared_ptr<StoreFile> openFile, const QString &select)
+        : file(std::move(openFile))
+        , query(translated(select, *file))
+        , statement(file->prepare(query.sql))
+    {
+        next();
+    }
+
+    void next()
+    {
+        eof = !file->step(statement);
+        if (eof)
+            sqlite3_reset(statement.get()); // the read lock isn't kept longer than the rows are
+    }
+
+    /// Where a row is read: the statement, if it stands on a row and has the column.
+    sqlite3_stmt *row(int column) const
+    {
+        if (column < 0 || column >= int(query.columns.size()))
+            throw RunTimeError(NoSuchColumn, u"فيلد شماره "_s + QString::number(column) + u" در نتيجه وجود ندارد"_s);
+        if (eof)
+            throw RunTimeError(NoCurrentRow, u"رکورد جاري وجود ندارد"_s);
+        return statement.get();
+    }
+
+    std::shared_ptr<StoreFile> file;
+    dialect::Query query;
+    PreparedStatement statement;
+    bool eof = false;
+};
+
+Recordset::Recordset(const Connection &connection, const QString &select)
+    : m_cursor(std::make_unique<Cursor>(connection.m_file, select))
+{
+}
+
+Recordset::~Recordset() = default;
+Recordset::Recordset(Recordset &&) noexcept = default;
+Recordset &Recordset::operator=(Recordset &&) noexcept = default;
+
+bool Recordset::eof() const
+{
+    return m_cursor->eof;
+}
+
+void Recordset::moveNext()
+{
+    m_cursor->row(0);
+    m_cursor->next();
+}
+
+int Recordset::columnCount() const
+{
+    return int(m_cursor->query.columns.size());
+}
+
+QString Recordset::columnName(int column) const
+{
+    return m_cursor->query.columns.at(std::size_t(column)).name;
+}
+
+Value Recordset::value(int column) const
+{
+    sqlite3_stmt *row = m_cursor->row(column);
+    switch (sqlite3_column_type(row, column)) {
+    case SQLITE_NULL:
+        return {};
+    case SQLITE_INTEGER:
+        return qint64(sqlite3_column_int64(row, column));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(row, column);
+    default:
+        const std::string_view text = utf8(column);
+        return QString::fromUtf8(text.data(), qsizetype(text.size()));
+    }
+}
+
+Value Recordset::value(QStringView name) const
+{
+    return value(columnIndex(name));
+}
+
+int Recordset::columnIndex(QStringView name) const
+{
+    for (int column = 0; column < columnCount(); ++column) {
+        if (name.compare(m_cursor->query.columns[std::size_t(column)].name, Qt::CaseInsensitive) == 0)
+            return column;
+    }
+    throw RunTimeError(NoSuchColumn, u"فيلد «"_s + name + u"» در نتيجه وجود ندارد"_s);
+}
+
+std::string_view Recordset::utf8(int column) const
+{
+    sqlite3_stmt *row = m_cursor->row(column);
+    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(row, column));
+    return text ? std::string_view(text, std::size_t(sqlite3_column_bytes(row, column))) : std::string_view();
+}
+
+int Recordset::recordCount() const
+{
+    const PreparedStatement count = m_cursor->file->prepare(m_cursor->query.countSql);
+    return m_cursor->file->step(count) ? sqlite3_column_int(count.get(), 0) : 0;
+}
+
+} // namespace zrv

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/store/dialect/scope.h"
+
+#include <QString>
+
+#include <map>
+#include <memory>
+#include <optional>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace zrv {
+
+struct CloseStatement {
+    void operator()(sqlite3_stmt *statement) const;
+};
+
+/// A prepared statement in SQLite's SQL.
+using PreparedStatement = std::unique_ptr<sqlite3_stmt, CloseStatement>;
+
+/// The open file of a store and what was learnt of its tables. Connections and recordsets share it; the last of them
+/// closes it. One thread uses it.
+class StoreFile : public dialect::Catalog {
+public:
+    /// Opens an existing file for reading and writing. Raises store_error::General where it is missing or no store.
+    explicit StoreFile(QString path);
+    ~StoreFile() override;
+    StoreFile(const StoreFile &) = delete;
+    StoreFile &operator=(const StoreFile &) = delete;
+
+    [[nodiscard]] PreparedStatement prepare(const QString &sql);
+    /// True if there is a row.
+    [[nodiscard]] bool step(const PreparedStatement &statement);
+    /// Runs one statement to its end; returns the number of rows it changed.
+    int run(const QString &sql);
+
+    [[nodiscard]] const TableShape *find(QStringView table) override;
+    /// To be called when a statement has changed the shape of tables.
+    void forgetTables() { m_tables.clear(); }
+
+    /// Gives this connection the memory that a statement over a whole table needs to be fast.
+    void expectLargeChange();
+
+private:
+    [[nodiscard]] std::optional<TableShape> readTable(QStringView name);
+    [[nodiscard]] QStringList indexColumns(const QString &index);
+
+    QString m_path;
+    sqlite3 *m_database = nullptr;
+    std::map<QString, std::optional<TableShape>> m_tables; ///< by name in lower case
+};
+
+/// Several statements that take effect together: rolled back unless committed.
+class Transaction {
+public:
+    explicit Transaction(StoreFile &file);
+    ~Transaction();
+    Transaction(const Transaction &) = delete;
+    Transaction &operator=(const Transaction &) = delete;
+
+    void commit();
+
+private:
+    StoreFile &m_file;
+    bool m_open = true;
+};
+
+} // namespace zrv
