@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+namespace zrv {
+
+class NewStore;
+
+/// The supervisor that a fresh store knows, since only a user can add users. Letters and digits, at most 10.
+struct FirstUser {
+    QString name = QStringLiteral("ADMIN");
+    QString password = QStringLiteral("ADMIN");
+};
+
+/// Puts in what every fresh store holds: the rows of the code lists and the first user. The codes of the fixed lists
+/// are those of the tax authority's file formats; the user's own lists get a few rows to begin with. The old list 3,
+/// which no screen writes, stays empty.
+void addFreshRows(NewStore &store, const FirstUser &user);
+
+} // namespace zrv
