@@ -6,6 +6,7 @@
 #include "core/frmEncodeDecode.h"
 #include "core/frmEnterance_Door.h"
 #include "core/frmMain.h"
+#include "files/frmCreatTextFiles.h"
 
 namespace zrv {
 
@@ -27,6 +28,7 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmMain"_s, makeScreen<frmMain>);
     catalogue.add(u"frmAbout"_s, makeScreen<frmAbout>);
     catalogue.add(u"frmEncodeDecode"_s, makeScreen<frmEncodeDecode>);
+    catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
 }
 
 void runProgram(Platform &platform)
