@@ -66,7 +66,7 @@ void frmEnterance_Door::warnOfSmallDisplay()
     const QSize display = m_platform.displaySize();
     if (display.height() >= SmallestDisplay.height() && display.width() >= SmallestDisplay.width())
         return;
-    messageBox(box::Critical | box::RightToLeft | box::Foreground, Refused,
+    messageBox(box::RefusalRtl, Refused,
                u" کاربر گرامي،دقت صفحه نمايش فعلي شما"_s + QString::number(display.width()) + u"*"_s
                    + QString::number(display.height()) + u" ميباشد"_s + u"\r\n"_s
                    + u" جهت اجراي صحيح برنامه دقت صفحه نمايش بايد بر روي  768 * 1024 تنظيم گردد "_s + u"\r\n"_s

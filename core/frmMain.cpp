@@ -105,7 +105,7 @@ void frmMain::testPayer()
     Recordset payer(connection, PayerQuery);
     if (payer.eof()) {
         enablePayerControls(false);
-        messageBox(box::Information, Refused,
+        messageBox(box::Notice, Refused,
                    u".کاربر گرامي جهت استفاده از برنامه  و فعال شدن تمامي قسمت هاي آن، تعريف پرداخت کننده حقوق "
                    "الزامي ميباشد.جهت تعريف پرداخت کننده حقوق لطفا دکمه (تعريف پرداخت کننده حقوق) را کليک نماييد"_s
                        + u"\r"_s
@@ -116,7 +116,7 @@ void frmMain::testPayer()
         return;
     }
     if (payer.recordCount() > 1)
-        messageBox(box::Critical, Refused,
+        messageBox(box::Refusal, Refused,
                    u" بيش از يک پرداخت کننده حقوق در جدول مربوطه تعريف گرديده است.لطفا با برنامه نويس تماس بگيريد "_s);
     enablePayerControls(true);
     const QDate today = m_platform.today();
@@ -150,7 +150,7 @@ void frmMain::storeIsTooOld()
     enablePayerControls(false);
     cmdKarfarma.setEnabled(false);
     cmdReadTextFiles.setEnabled(false);
-    messageBox(box::Critical | box::RightToLeft, u"توجه"_s,
+    messageBox(box::RefusalRtl, u"توجه"_s,
                u"نسخه اجرا شده برنامه با ديتابيس موجود سازگاري ندارد.لطفا نسبت به بروزرساني پايگاه اطلاعاتي از طريق "
                "فرمي که نمايش داده خواهد شد، اقدام نماييد"_s);
     openScreen(UpgradeScreen);

@@ -8,14 +8,49 @@ namespace zrv {
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+constexpr int EnterCode = 13;
+constexpr int EscapeCode = 27;
+
+} // namespace
+
+RecordScreen::RecordScreen(Program &program, QString name, QString keyContainer, QString dataContainer)
+    : Screen(program, std::move(name))
+    , m_keyContainer(std::move(keyContainer))
+    , m_dataContainer(std::move(dataContainer))
+{
+}
+
 void RecordScreen::Form_KeyPress(int &keyAscii)
 {
     if (activeControl())
         keyAscii = FilterKey(activeControl()->tag(), keyAscii);
-    if (keyAscii == '\r') {
+    if (keyAscii == EnterCode) {
         keyAscii = 0;
         moveFocus(1);
+    } else if (keyAscii == EscapeCode && goBack()) {
+        keyAscii = 0;
     }
+}
+
+bool RecordScreen::goBack()
+{
+    // A panel is open while its own button can be used.
+    struct Step {
+        QStringView openWhile;
+        QStringView runs;
+    };
+    for (const Step &step : {Step{u"cmdSearch", u"cmdCancel_Search"}, Step{u"cmdDataOk", u"cmdDataReturn"},
+                             Step{u"cmdKeyOk", u"cmdKeyReturn"}}) {
+        const Control *const open = find(step.openWhile);
+        Control *const button = find(step.runs);
+        if (!open || !open->isReachable() || !button || !button->onClick)
+            continue;
+        button->onClick();
+        return true;
+    }
+    return false;
 }
 
 bool RecordScreen::requiredAreFilled(QStringView container)
@@ -26,6 +61,26 @@ bool RecordScreen::requiredAreFilled(QStringView container)
     messageBox(box::Refusal, u" اخطار  "_s, u"  مقداردهي مواردي که با رنگ زمينه متمايز گرديده اند الزامي ميباشد "_s);
     fields.firstEmpty->setFocus();
     return false;
+}
+
+void RecordScreen::openDataStage()
+{
+    DisableContainer(m_keyContainer, *this);
+    EnableContainer(m_dataContainer, *this);
+}
+
+void RecordScreen::openKeyStage(bool clearKey)
+{
+    ClearContainer(m_dataContainer, *this);
+    DisableContainer(m_dataContainer, *this);
+    if (clearKey)
+        ClearContainer(m_keyContainer, *this);
+    EnableContainer(m_keyContainer, *this);
+}
+
+bool RecordScreen::confirmDelete()
+{
+    return messageBox(box::AskYesNo, u"                       حذف "_s, u"  آيا  مطمئن  هستيد ؟"_s) == Answer::Yes;
 }
 
 } // namespace zrv

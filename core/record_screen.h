@@ -5,17 +5,35 @@
 
 namespace zrv {
 
-/// What the record screens share: the form looks at each key first and drops those that the field's tag
-/// doesn't admit, and Enter walks through the fields as Tab does.
+/// What the record screens share. The form looks at each key first and drops those that the field's tag doesn't
+/// admit; Enter walks through the fields as Tab does; Escape goes one stage back. A record's life is two stages:
+/// the key fields are open and the data fields closed, or the other way round.
 class RecordScreen : public Screen {
 public:
-    using Screen::Screen;
+    /// The containers of the two stages are named letter for letter as the screen has them.
+    RecordScreen(Program &program, QString name, QString keyContainer = QStringLiteral("framKey"),
+                 QString dataContainer = QStringLiteral("framData"));
 
 protected:
     void Form_KeyPress(int &keyAscii) override;
 
     /// CheckRequired over a container; when a field is empty the user is told and the focus goes to the first one.
     bool requiredAreFilled(QStringView container);
+
+    /// Key fields closed, data fields open.
+    void openDataStage();
+    /// Data fields emptied and closed, key fields emptied if wanted and open. The screen then gives the focus.
+    void openKeyStage(bool clearKey = true);
+
+    /// The question before a record is deleted.
+    bool confirmDelete();
+
+    /// Runs, of cmdCancel_Search, cmdDataReturn and cmdKeyReturn, the first whose panel is open.
+    bool goBack();
+
+private:
+    QString m_keyContainer;
+    QString m_dataContainer;
 };
 
 } // namespace zrv

@@ -12,6 +12,8 @@ class Screen : public Form {
 public:
     Screen(Program &program, QString name);
 
+    [[nodiscard]] Program &program() const { return m_program; }
+
     /// Opens a screen of the catalogue above this one and waits until it is closed; then this screen's
     /// activation runs. A screen that the program has not got yet is named in a plain box.
     void openScreen(const QString &name);

@@ -28,7 +28,7 @@ inline constexpr int RightToLeft = 0x100000;
 
 inline constexpr int Refusal = Critical | Foreground | RightAligned; ///< 0x90010
 inline constexpr int RefusalRtl = Refusal | RightToLeft;             ///< 0x190010
-inline constexpr int Done = Information | Foreground | RightAligned; ///< 0x90040
+inline constexpr int Notice = Information | Foreground | RightAligned; ///< 0x90040
 inline constexpr int AskYesNo = Question | YesNo;                    ///< 36
 
 } // namespace box

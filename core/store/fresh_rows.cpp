@@ -237,4 +237,12 @@ void addFreshRows(NewStore &store, const FirstUser &user)
     store.addRow(u"User_Defination", std::array<Value, 5>{user.name, user.password, u"مدير"_s, u"سيستم"_s, u"1"_s});
 }
 
+QString codeListName(QStringView number)
+{
+    for (const List &list : Lists)
+        if (list.number == number)
+            return list.description.toString();
+    return {};
+}
+
 } // namespace zrv

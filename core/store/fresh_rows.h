@@ -18,4 +18,7 @@ struct FirstUser {
 /// which no screen writes, stays empty.
 void addFreshRows(NewStore &store, const FirstUser &user);
 
+/// The name of a code list, also when the store holds no row of it; empty for a number that is no list's.
+[[nodiscard]] QString codeListName(QStringView number);
+
 } // namespace zrv

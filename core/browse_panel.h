@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/record_screen.h"
+
+namespace zrv {
+
+/// A column of a browse grid: as it is shown, and the store's name for it in conditions and orders.
+struct BrowseColumn {
+    QString field; ///< name in the result
+    QString caption;
+    QString format = {};      ///< "#,##0" for money, "##/##/##" for dates
+    bool leftToRight = false; ///< codes and numbers
+    QString expression = {};  ///< what the field is in a condition; empty when it is the field itself
+};
+
+/// What a screen tells its browse panel.
+struct BrowseQuery {
+    std::function<QString()> all;                            ///< the statement of all rows, without its order
+    QString order = {};                                      ///< the usual order; empty for the order of entry
+    std::function<QString(const QString &condition)> search; ///< the whole statement of a search
+};
+
+/// The grid of a record screen with everything that acts on it: the three options with their two captions each,
+/// sorting by a column's head, searching by words, and the keys that take a row to the key fields. All screens
+/// with a grid have this one.
+class BrowsePanel {
+public:
+    BrowsePanel(Screen &screen, Container &framBrows, const QString &gridName);
+
+    // clang-format off
+private:
+    Screen &m_screen;
+public:
+    Picture PicOperation;
+    OptionButton OptNormal;
+    OptionButton OptSort;
+    OptionButton OptSearch;
+    Label lblSearch;
+    TextBox txtSearch;
+    CheckBox chkAnd;
+    Button cmdSearch;
+    Button cmdCancel_Search;
+    ListBox lstWord_Seperator;
+    Grid grid;
+    Label LabelGridCountCaption;
+    Label LabelGridCount;
+    // clang-format on
+
+    /// Called once by the screen's constructor.
+    void setUp(BrowseQuery query, std::vector<BrowseColumn> columns);
+    void setColumnCaptions(const std::vector<QString> &captions);
+
+    /// Start of a screen: search bar hidden, ascending, alike.
+    void reset();
+    /// All rows in the usual order. Failures are reported in the plain box of the grids.
+    void fill();
+    /// Shows the rows of any statement with the panel's columns; false when there are none.
+    bool show(const QString &statement);
+    /// The condition of a search for these words in a field: each word alike or equal, joined by And or Or.
+    [[nodiscard]] QString wordCondition(const QString &field, const QStringList &words) const;
+
+    /// A double click or Enter on a row, and the Delete key on it.
+    std::function<void()> onPick;
+    std::function<void()> onDelete;
+
+    [[nodiscard]] bool sortAscending() const { return m_sortAscending; }
+    [[nodiscard]] bool searchSimilar() const { return m_searchSimilar; }
+    [[nodiscard]] int rowCount() const { return grid.rowCount(); }
+
+private:
+    void showRows(const QString &statement);
+    void headClicked(int column);
+    bool gridKey(Key key);
+    bool searchKeyDown(Key key);
+    void cmdSearch_Click();
+    void cmdCancel_Search_Click();
+    [[nodiscard]] QString expressionOf(int column) const;
+
+    BrowseQuery m_query;
+    std::vector<BrowseColumn> m_columns;
+    int m_searchColumn = 0;
+    bool m_sortAscending = true;
+    bool m_searchSimilar = true;
+};
+
+/// Shows or hides the search controls of a form: lblSearch, txtSearch, cmdSearch, cmdCancel_Search, chkAnd. Shown,
+/// OptSort and OptNormal can be used.
+void ArrangeSearchBar(bool shown, Form &form);
+
+/// The words of a text, split at its blanks, without empty ones.
+[[nodiscard]] QStringList searchWords(const QString &text);
+
+} // namespace zrv
