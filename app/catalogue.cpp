@@ -3,6 +3,7 @@
 
 #include "core/basic/run_time_error.h"
 #include "core/frmAbout.h"
+#include "core/frmCodingCalls.h"
 #include "core/frmEncodeDecode.h"
 #include "core/frmEnterance_Door.h"
 #include "core/frmMain.h"
@@ -28,6 +29,7 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmMain"_s, makeScreen<frmMain>);
     catalogue.add(u"frmAbout"_s, makeScreen<frmAbout>);
     catalogue.add(u"frmEncodeDecode"_s, makeScreen<frmEncodeDecode>);
+    catalogue.add(u"frmCodingCalls"_s, makeScreen<frmCodingCalls>);
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
 }
 

@@ -187,7 +187,7 @@ void frmCreatTextFiles::createHogogFile()
     hideWaitingMessage();
     m_successText += LineEnd + u"فايل متني ليست حقوق با موفقيت ايجاد گرديد"_s + LineEnd
                      + u" تعداد حقوق بگيران منتقل شده به فايل ليست حقوق ماه انتخاب شده : "_s + QString::number(written);
-    messageBox(box::Done, u" اطلاع  "_s, m_successText);
+    messageBox(box::Notice, u" اطلاع  "_s, m_successText);
 }
 
 // Refusals ---------------------------------------------------------------------------------------------------
