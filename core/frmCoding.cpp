@@ -100,8 +100,8 @@ void frmCoding::Form_Load()
     txtMDesc.setText(m_listName);
     lblForm.setCaption(u"تعريف "_s + m_listName);
     setCaption(lblForm.caption());
-    DisableContainer(u"framData", *this);
-    ApplyModeButtons(u"framKey", *this);
+    EnableContainer(u"framBrows", *this);
+    openKeyStage(false);
     ApplyModeButtons(u"StartProgram", *this);
     browse.reset();
     browse.fill();
