@@ -25,7 +25,7 @@ QString filePath(const QString &connectionString)
     static const QRegularExpression source(
         u"(?:^|;)\\s*Data Source\\s*=\\s*(.*?)\\s*(?:;\\s*[A-Za-z][A-Za-z :]*=|;?\\s*$)"_s,
         QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-    const QString named = source.match(connectionString).captured(1);
+    QString named = source.match(connectionString).captured(1);
     if (named.isEmpty())
         throw RunTimeError(store_error::General, u"نام فايل بانک اطلاعاتي مشخص نشده است"_s);
     if (QDir::separator() == u'\\')
@@ -38,9 +38,8 @@ QString filePath(const QString &connectionString)
     return QFileInfo::exists(path) ? path : QString(named).replace(u'\\', u'/');
 }
 
-int run(StoreFile &file, const dialect::Select &)
+int run([[maybe_unused]] StoreFile &file, [[maybe_unused]] const dialect::Select &select)
 {
-    Q_UNUSED(file)
     dialect::refuse(u"SELECT");
 }
 

@@ -23,8 +23,8 @@ class Connection {
 public:
     explicit Connection(const QString &connectionString);
     ~Connection();
-    Connection(Connection &&) noexcept;
-    Connection &operator=(Connection &&) noexcept;
+    Connection(Connection &&other) noexcept;
+    Connection &operator=(Connection &&other) noexcept;
 
     /// Runs one complete statement of the store's dialect that writes; returns the number of rows it touched.
     /// The statement takes effect as a whole and is on the disk when the call returns, or nothing has changed.

@@ -55,10 +55,9 @@ public:
                 sqlite3_bind_text(insert, int(i) + 1, text.constData(), int(text.size()), SQLITE_TRANSIENT);
         }
         const int result = sqlite3_step(insert);
-        const RunTimeError failure = storeFailure(m_database, m_path, false);
         sqlite3_reset(insert);
         if (result != SQLITE_DONE)
-            throw failure;
+            throw storeFailure(m_database, m_path, false);
     }
 
     void finish()

@@ -114,7 +114,7 @@ char32_t takeSign(std::string_view utf8, std::size_t &at)
     const int more = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : first >= 0xC2 ? 1 : 0;
     if (more == 0)
         return first;
-    char32_t sign = char32_t(first & (0x3F >> more));
+    auto sign = char32_t(first & (0x3F >> more));
     for (int i = 0; i < more; ++i) {
         if ((byte(at + std::size_t(i)) & 0xC0) != 0x80)
             return first;

@@ -16,8 +16,8 @@ class Recordset {
 public:
     Recordset(const Connection &connection, const QString &select);
     ~Recordset();
-    Recordset(Recordset &&) noexcept;
-    Recordset &operator=(Recordset &&) noexcept;
+    Recordset(Recordset &&other) noexcept;
+    Recordset &operator=(Recordset &&other) noexcept;
 
     /// True before the first row when there is none, and past the last row.
     [[nodiscard]] bool eof() const;

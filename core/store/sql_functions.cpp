@@ -1,20 +1,23 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store/sql_functions.h"
 
+#include "core/basic/letter_fold.h"
+#include "core/basic/number_format.h"
 #include "core/store/like.h"
-#include "core/store/number_format.h"
 #include "core/store/persian_order.h"
 #include "core/store/sql_number.h"
 #include "core/store/value.h"
 
 #include <new>
+#include <span>
 #include <sqlite3.h>
 
 namespace zrv {
 
 namespace {
 
-using Call = void (*)(sqlite3_context *, int, sqlite3_value **);
+using Arguments = std::span<sqlite3_value *const>;
+using Call = void (*)(sqlite3_context *, Arguments);
 
 std::string_view utf8Of(sqlite3_value *value)
 {
@@ -71,39 +74,39 @@ QString shown(sqlite3_value *value)
     return textOf(value);
 }
 
-void val(sqlite3_context *context, int, sqlite3_value **arguments)
+void val(sqlite3_context *context, Arguments arguments)
 {
     give(context, numberOf(arguments[0]));
 }
 
-void cstr(sqlite3_context *context, int, sqlite3_value **arguments)
+void cstr(sqlite3_context *context, Arguments arguments)
 {
     if (!isNull(arguments[0]))
         give(context, shown(arguments[0]));
 }
 
-void join(sqlite3_context *context, int, sqlite3_value **arguments)
+void join(sqlite3_context *context, Arguments arguments)
 {
     if (!isNull(arguments[0]) || !isNull(arguments[1]))
         give(context, textOf(arguments[0]) + textOf(arguments[1]));
 }
 
-void like(sqlite3_context *context, int, sqlite3_value **arguments)
+void like(sqlite3_context *context, Arguments arguments)
 {
     if (isNull(arguments[0]) || isNull(arguments[1]))
         return;
     // The pattern is the same in every row: SQLite keeps its search form from one call to the next.
     auto *pattern = static_cast<QString *>(sqlite3_get_auxdata(context, 1));
     if (!pattern) {
-        sqlite3_set_auxdata(context, 1, new QString(searchForm(textOf(arguments[1]))),
+        sqlite3_set_auxdata(context, 1, new QString(searchKey(textOf(arguments[1]))),
                             [](void *kept) { delete static_cast<QString *>(kept); });
         pattern = static_cast<QString *>(sqlite3_get_auxdata(context, 1));
     }
-    const QString form = pattern ? *pattern : searchForm(textOf(arguments[1]));
-    sqlite3_result_int(context, matches(form, searchForm(textOf(arguments[0]))));
+    const QString form = pattern ? *pattern : searchKey(textOf(arguments[1]));
+    sqlite3_result_int(context, matches(form, searchKey(textOf(arguments[0]))));
 }
 
-void order(sqlite3_context *context, int, sqlite3_value **arguments)
+void order(sqlite3_context *context, Arguments arguments)
 {
     if (isNull(arguments[0]))
         return;
@@ -111,39 +114,39 @@ void order(sqlite3_context *context, int, sqlite3_value **arguments)
     sqlite3_result_blob(context, key.data(), int(key.size()), SQLITE_TRANSIENT);
 }
 
-void format(sqlite3_context *context, int, sqlite3_value **arguments)
+void format(sqlite3_context *context, Arguments arguments)
 {
-    give(context, isNull(arguments[0]) ? QString() : formatNumber(shown(arguments[0]), textOf(arguments[1])));
+    give(context, isNull(arguments[0]) ? QString() : Format(shown(arguments[0]), textOf(arguments[1])));
 }
 
-void left(sqlite3_context *context, int, sqlite3_value **arguments)
+void left(sqlite3_context *context, Arguments arguments)
 {
     if (!isNull(arguments[0]))
         give(context, textOf(arguments[0]).left(qMax(0, sqlite3_value_int(arguments[1]))));
 }
 
-void right(sqlite3_context *context, int, sqlite3_value **arguments)
+void right(sqlite3_context *context, Arguments arguments)
 {
     if (!isNull(arguments[0]))
         give(context, textOf(arguments[0]).right(qMax(0, sqlite3_value_int(arguments[1]))));
 }
 
-void mid(sqlite3_context *context, int count, sqlite3_value **arguments)
+void mid(sqlite3_context *context, Arguments arguments)
 {
     if (isNull(arguments[0]))
         return;
     const int start = qMax(1, sqlite3_value_int(arguments[1])) - 1;
-    const int length = count > 2 ? qMax(0, sqlite3_value_int(arguments[2])) : -1;
+    const int length = arguments.size() > 2 ? qMax(0, sqlite3_value_int(arguments[2])) : -1;
     give(context, textOf(arguments[0]).mid(start, length));
 }
 
-void ucase(sqlite3_context *context, int, sqlite3_value **arguments)
+void ucase(sqlite3_context *context, Arguments arguments)
 {
     if (!isNull(arguments[0]))
         give(context, textOf(arguments[0]).toUpper());
 }
 
-void lcase(sqlite3_context *context, int, sqlite3_value **arguments)
+void lcase(sqlite3_context *context, Arguments arguments)
 {
     if (!isNull(arguments[0]))
         give(context, textOf(arguments[0]).toLower());
@@ -157,7 +160,7 @@ struct Sum {
     double fractions;
 };
 
-void addToSum(sqlite3_context *context, int, sqlite3_value **arguments)
+void addToSum(sqlite3_context *context, Arguments arguments)
 {
     auto *sum = static_cast<Sum *>(sqlite3_aggregate_context(context, sizeof(Sum)));
     if (!sum || isNull(arguments[0]))
@@ -192,7 +195,7 @@ template <Call call>
 void guarded(sqlite3_context *context, int count, sqlite3_value **arguments)
 {
     try {
-        call(context, count, arguments);
+        call(context, Arguments(arguments, std::size_t(count)));
     } catch (const std::bad_alloc &) {
         sqlite3_result_error_nomem(context);
     }
@@ -201,7 +204,7 @@ void guarded(sqlite3_context *context, int count, sqlite3_value **arguments)
 struct SqlFunction {
     const char *name;
     int arguments;
-    Call call;
+    void (*call)(sqlite3_context *, int, sqlite3_value **);
 };
 
 constexpr SqlFunction SqlFunctions[] = {

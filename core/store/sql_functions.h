@@ -13,7 +13,7 @@ namespace zrv {
 ///   zrv_join(a, b)       the dialect's `&`: NULL counts as empty unless both are NULL
 ///   zrv_like(t, pattern) the dialect's LIKE (core/store/like.h)
 ///   zrv_order(t)         the key of a text's place in the Persian alphabet (core/store/persian_order.h)
-///   zrv_format(x, p)     core/store/number_format.h
+///   zrv_format(x, p)     Format of core/basic/number_format.h
 ///   zrv_left, zrv_right, zrv_mid, zrv_ucase, zrv_lcase
 /// Texts are NULL where the text they are made of is NULL.
 void addSqlFunctions(sqlite3 *database);

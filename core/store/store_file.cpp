@@ -104,9 +104,13 @@ bool StoreFile::step(const PreparedStatement &statement)
         return true;
     if (result == SQLITE_DONE)
         return false;
-    const RunTimeError failure = storeFailure(m_database, m_path, false);
-    sqlite3_reset(statement.get()); // lets go of the store's lock
-    throw failure;
+    raise(statement.get());
+}
+
+void StoreFile::raise(sqlite3_stmt *failed) const
+{
+    sqlite3_reset(failed); // lets go of the store's lock, and keeps what is known of the failure
+    throw storeFailure(m_database, m_path, false);
 }
 
 int StoreFile::run(const QString &sql)

@@ -45,6 +45,7 @@ public:
     void expectLargeChange();
 
 private:
+    [[noreturn]] void raise(sqlite3_stmt *failed) const;
     [[nodiscard]] std::optional<TableShape> readTable(QStringView name);
     [[nodiscard]] QStringList indexColumns(const QString &index);
 

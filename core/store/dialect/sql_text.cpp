@@ -23,8 +23,8 @@ QString asValue(const Sql &sql)
 
 QString asText(const Sql &sql)
 {
-    const bool isNumber = sql.kind == Kind::Number || sql.kind == Kind::Truth;
-    return isNumber ? QString("zrv_cstr("_L1 + asValue(sql) + ")"_L1) : sql.text;
+    const bool isNumeric = sql.kind == Kind::Number || sql.kind == Kind::Truth;
+    return isNumeric ? QString("zrv_cstr("_L1 + asValue(sql) + ")"_L1) : sql.text;
 }
 
 QString asNumber(const Sql &sql)

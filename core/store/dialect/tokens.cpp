@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store/dialect/tokens.h"
 
+#include "core/basic/text.h"
 #include "core/store/store_error.h"
 
 namespace zrv::dialect {
@@ -8,11 +9,6 @@ namespace zrv::dialect {
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-bool isDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
 
 bool isNameStart(QChar c)
 {
@@ -67,7 +63,7 @@ private:
             return quotedText(c);
         if (c == u'[')
             return bracketedName();
-        if (isDigit(c) || (c == u'.' && isDigit(peek(1))))
+        if (isAsciiDigit(c) || (c == u'.' && isAsciiDigit(peek(1))))
             return number();
         if (isNameStart(c))
             return name();
@@ -106,11 +102,11 @@ private:
     Token number()
     {
         const qsizetype start = m_at;
-        while (isDigit(peek(0)))
+        while (isAsciiDigit(peek(0)))
             ++m_at;
         if (peek(0) == u'.') {
             ++m_at;
-            while (isDigit(peek(0)))
+            while (isAsciiDigit(peek(0)))
                 ++m_at;
         }
         // "5WHERE" is a slip of the pen and not a number followed by a keyword.
@@ -122,7 +118,7 @@ private:
     Token name()
     {
         const qsizetype start = m_at;
-        while (isNameStart(peek(0)) || isDigit(peek(0)))
+        while (isNameStart(peek(0)) || isAsciiDigit(peek(0)))
             ++m_at;
         return {Token::Type::Name, m_statement.mid(start, m_at - start).toString()};
     }

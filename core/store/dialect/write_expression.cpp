@@ -60,6 +60,7 @@ private:
     std::vector<Sql> all(const std::vector<Expression> &expressions) const
     {
         std::vector<Sql> written;
+        written.reserve(expressions.size());
         for (const Expression &expression : expressions)
             written.push_back(write(expression));
         return written;
@@ -115,8 +116,8 @@ private:
     /// Texts compare without regard to case, whatever the table says.
     static QString comparison(const Sql &left, const QString &sign, const Sql &right)
     {
-        const auto isNumber = [](Kind kind) { return kind == Kind::Number || kind == Kind::Truth; };
-        if ((left.kind == Kind::Text && isNumber(right.kind)) || (isNumber(left.kind) && right.kind == Kind::Text))
+        const auto isNumeric = [](Kind kind) { return kind == Kind::Number || kind == Kind::Truth; };
+        if ((left.kind == Kind::Text && isNumeric(right.kind)) || (isNumeric(left.kind) && right.kind == Kind::Text))
             throw RunTimeError(store_error::TypeMismatch, u"نوع دو طرف مقايسه در دستور بانک اطلاعاتي يکسان نيست : "_s
                                                               + left.text + sign + right.text);
         const bool texts = left.kind == Kind::Text || right.kind == Kind::Text;
