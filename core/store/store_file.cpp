@@ -145,7 +145,9 @@ std::optional<TableShape> StoreFile::readTable(QStringView name)
     const PreparedStatement indexes = prepare("PRAGMA index_list("_L1 + quotedName + u')');
     while (step(indexes)) {
         const bool unique = sqlite3_column_int(indexes.get(), 2) != 0;
-        (unique ? shape.uniqueKeys : shape.indexes).push_back(indexColumns(textOf(indexes.get(), 1)));
+        // SQLite lists them from the latest back.
+        std::vector<QStringList> &list = unique ? shape.uniqueKeys : shape.indexes;
+        list.insert(list.begin(), indexColumns(textOf(indexes.get(), 1)));
     }
     return shape;
 }
