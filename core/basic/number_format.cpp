@@ -50,7 +50,6 @@ QString placed(QStringView digits, bool negative, QStringView picture)
 {
     while (!digits.isEmpty() && digits.front() == u'0')
         digits = digits.sliced(1);
-    const bool signedNumber = negative && !digits.isEmpty();
 
     const auto firstPlace = std::find_if(picture.begin(), picture.end(), isPlace);
     BackwardText text(picture.contains(u','));
@@ -70,7 +69,7 @@ QString placed(QStringView digits, bool negative, QStringView picture)
         for (; letter == firstPlace && !digits.isEmpty(); digits.chop(1))
             text.addDigit(digits.back());
     }
-    if (signedNumber)
+    if (negative)
         text.addLiteral(u'-');
     return std::move(text).forward();
 }

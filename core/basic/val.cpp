@@ -214,7 +214,7 @@ bool IsNumeric(QStringView text)
 QString numberText(double number)
 {
     constexpr int SignificantDigits = 15;
-    return number == 0 ? QString(u'0') : QString::number(number, 'G', SignificantDigits);
+    return QString::number(number, 'G', SignificantDigits);
 }
 
 QString strText(double number)
