@@ -8,6 +8,7 @@
 #include "core/frmEnterance_Door.h"
 #include "core/frmMain.h"
 #include "files/frmCreatTextFiles.h"
+#include "parties/frmKarfarma.h"
 
 namespace zrv {
 
@@ -30,6 +31,7 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmAbout"_s, makeScreen<frmAbout>);
     catalogue.add(u"frmEncodeDecode"_s, makeScreen<frmEncodeDecode>);
     catalogue.add(u"frmCodingCalls"_s, makeScreen<frmCodingCalls>);
+    catalogue.add(u"frmKarfarma"_s, makeScreen<frmKarfarma>);
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
 }
 

@@ -162,20 +162,29 @@ QString BrowsePanel::wordCondition(const QString &field, const QStringList &word
     return condition;
 }
 
-void BrowsePanel::cmdSearch_Click()
+/// False when the sought words are in no row. Without words all rows are shown.
+bool BrowsePanel::search()
 {
-    ArrangeSearchBar(true, m_screen);
     const QStringList words = searchWords(txtSearch.text());
     lstWord_Seperator.clear();
     for (const QString &word : words)
         lstWord_Seperator.addItem({word, {}});
-    if (words.isEmpty()) {
-        fill();
-        return;
-    }
-    const bool found = show(m_query.search(wordCondition(expressionOf(m_searchColumn), words)));
-    if (!found)
+    if (!words.isEmpty())
+        return show(m_query.search(wordCondition(expressionOf(m_searchColumn), words)));
+    fill();
+    return true;
+}
+
+void BrowsePanel::cmdSearch_Click()
+{
+    ArrangeSearchBar(true, m_screen);
+    if (!search())
         m_screen.program().platform.messageBox(box::Notice, u"  توجه"_s, u".چنين رکوردي وجود ندارد"_s);
+}
+
+void BrowsePanel::setAutoSearch(bool on)
+{
+    txtSearch.onChange = on ? [this] { (void)search(); } : std::function<void()>();
 }
 
 void BrowsePanel::cmdCancel_Search_Click()

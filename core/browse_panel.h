@@ -60,6 +60,9 @@ public:
     /// The condition of a search for these words in a field: each word alike or equal, joined by And or Or.
     [[nodiscard]] QString wordCondition(const QString &field, const QStringList &words) const;
 
+    /// Searches as the sought text changes, without a word when nothing is found.
+    void setAutoSearch(bool on);
+
     /// A double click or Enter on a row, and the Delete key on it.
     std::function<void()> onPick;
     std::function<void()> onDelete;
@@ -74,6 +77,7 @@ private:
     bool gridKey(Key key);
     bool searchKeyDown(Key key);
     void cmdSearch_Click();
+    [[nodiscard]] bool search();
     void cmdCancel_Search_Click();
     [[nodiscard]] QString expressionOf(int column) const;
 

@@ -67,9 +67,15 @@ frmMain::frmMain(Program &program)
              {mnusubVersionsFacilities, u"frmVersionsFacilities"_s},
          })
         row.control.onClick = [this, screen = row.screen] { openScreen(screen); };
+    program.showPayer = [this](const QString &text) { panelPayer.setText(text); };
     cmdSrcMoadi.onClick = [this] { cmdSrcMoadi_Click(); };
     mnusubUpgradeDatabaseStructure.onClick = [this] { mnusubUpgradeDatabaseStructure_Click(); };
     cmdExit.onClick = mnuExit.onClick = [this] { cmdExit_Click(); };
+}
+
+frmMain::~frmMain()
+{
+    m_program.showPayer = nullptr;
 }
 
 void frmMain::Form_Load()

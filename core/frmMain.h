@@ -12,6 +12,7 @@ using namespace Qt::Literals::StringLiterals;
 class frmMain : public Screen {
 public:
     explicit frmMain(Program &program);
+    ~frmMain() override;
 
     // clang-format off
     MenuItem mnuAmaliat{*this, u"mnuAmaliat"_s, {.caption = u"&عمليات  "_s}};

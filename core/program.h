@@ -45,11 +45,12 @@ struct Program {
     qint16 PayerMMoadiType = 0;
     qint16 PayerSMoadiType = 0;
     qint16 PayerMohasebeType = 0;
-    QString PrevSoftVersion;   ///< the version for which the first-run question came last
-    QString HogogPath;         ///< WH file handed from the writer to the check screen
-    QString KholPath;          ///< WK file likewise
-    QString SearchCallerName;  ///< who opened the payee search
-    QString SelectedMelliCode; ///< the payee picked there
+    QString PrevSoftVersion;                        ///< the version for which the first-run question came last
+    QString HogogPath;                              ///< WH file handed from the writer to the check screen
+    QString KholPath;                               ///< WK file likewise
+    std::function<void(const QString &)> showPayer; ///< writes the payer's name into the main form's status bar
+    QString SearchCallerName;                       ///< who opened the payee search
+    QString SelectedMelliCode;                      ///< the payee picked there
 };
 
 } // namespace zrv
