@@ -11,4 +11,12 @@ std::unique_ptr<Screen> Catalogue::make(const QString &name, Program &program) c
     return maker == m_makers.end() ? nullptr : maker->second(program);
 }
 
+std::vector<QString> Catalogue::names() const
+{
+    std::vector<QString> names;
+    for (const auto &entry : m_makers)
+        names.push_back(entry.first);
+    return names;
+}
+
 } // namespace zrv

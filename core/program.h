@@ -6,6 +6,7 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <vector>
 
 namespace zrv {
 
@@ -21,6 +22,9 @@ public:
     void add(const QString &name, Maker maker) { m_makers[name] = std::move(maker); }
     /// A new screen of this name; null when the program has none.
     [[nodiscard]] std::unique_ptr<Screen> make(const QString &name, Program &program) const;
+
+    /// The names of all screens, in the order of the alphabet.
+    [[nodiscard]] std::vector<QString> names() const;
 
 private:
     std::map<QString, Maker> m_makers;

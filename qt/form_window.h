@@ -11,7 +11,9 @@
 
 class QAction;
 class QKeyEvent;
+class QMenuBar;
 class QScrollArea;
+class QStatusBar;
 
 namespace zrv {
 
@@ -38,12 +40,19 @@ public:
     /// What lies around the widgets of a container: the container's own widget, or the window's ground.
     [[nodiscard]] QWidget *groundOf(Container &container) const;
     [[nodiscard]] Binder &binderOf(const Control &control) const;
+    /// The bars are made when the first control asks for one.
+    QMenuBar *menuBar();
+    QStatusBar *statusBar();
+    /// The ground on which the layout places everything that lies in no container.
+    [[nodiscard]] QWidget *ground() const { return m_ground; }
 
     /// Runs a piece of screen code for a user's action and then brings Qt's focus to where the form has it.
     void enter(const std::function<void()> &action);
-    /// A key press that reached a control's widget. True when the form has taken it; false leaves it to the widget.
-    bool keyPressed(Binder *binder, QKeyEvent &event);
-    /// A mouse press on a control that takes the focus: false when the press must not reach the widget.
+    /// The same while the user types in a field: what the field then shows can be undone.
+    void enterTyping(const Control *field, const std::function<void()> &action);
+    [[nodiscard]] bool isTyping(const Control &field) const { return m_typingIn == &field; }
+    /// The mouse, or whatever acts like it, is on a control: asks the form for the focus. False when the control did
+    /// not get it; the press must not reach the widget then.
     bool pressed(Control &control);
 
     void controlChanged(Control &control, Aspect aspect) override;
@@ -64,14 +73,18 @@ protected:
 
 private:
     void makeBinders();
-    void place();
-    void fit();
     void watch(Binder &binder);
+    QSize fittingSize() const;
+    bool keyPressed(Binder *binder, const QKeyEvent &event);
+    bool watchedEvent(Binder &binder, QObject *object, QEvent &event);
 
     Form &m_form;
     QtPlatform &m_platform;
     QScrollArea *m_scroll = nullptr;
     QWidget *m_ground = nullptr;
+    QMenuBar *m_menuBar = nullptr;
+    QStatusBar *m_statusBar = nullptr;
+    const Control *m_typingIn = nullptr;
     std::unordered_map<const Control *, std::unique_ptr<Binder>> m_binders;
     std::unordered_map<const QObject *, Binder *> m_watched;
 };

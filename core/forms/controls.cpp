@@ -16,6 +16,7 @@ TextBox::TextBox(Container &container, QString name, const TextBoxLook &look)
     m_toolTip = look.toolTip;
     m_locked = look.locked;
     m_visible = look.visible;
+    m_leftToRight = look.leftToRight;
 }
 
 Label::Label(Container &container, QString name, const LabelLook &look)

@@ -31,7 +31,6 @@ public:
 
     [[nodiscard]] QChar passwordLetter() const { return m_look.password; }
     [[nodiscard]] bool isMultiLine() const { return m_look.multiLine; }
-    [[nodiscard]] bool isLeftToRight() const { return m_look.leftToRight; }
 
 private:
     TextBoxLook m_look;

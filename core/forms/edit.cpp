@@ -43,6 +43,11 @@ void Edit::setLocked(bool locked)
     changed(Aspect::Locked);
 }
 
+bool Edit::isLeftToRight() const
+{
+    return m_leftToRight || (tag().contains(u"+DigitOnly") && !tag().contains(u"+FA"));
+}
+
 void Edit::select(qsizetype start, qsizetype length)
 {
     m_selStart = std::clamp<qsizetype>(start, 0, m_text.size());

@@ -21,6 +21,10 @@ public:
     [[nodiscard]] bool isLocked() const { return m_locked; }
     void setLocked(bool locked);
 
+    /// Digits, codes and Latin texts run from left to right whatever is typed first; all other fields from right to
+    /// left, where the Left key moves on and the Right key back.
+    [[nodiscard]] bool isLeftToRight() const;
+
     [[nodiscard]] qsizetype selStart() const { return m_selStart; }
     [[nodiscard]] qsizetype selLength() const { return m_selLength; }
     void select(qsizetype start, qsizetype length);
@@ -45,6 +49,7 @@ protected:
     QString m_text;
     int m_maxLength = 0;
     bool m_locked = false;
+    bool m_leftToRight = false;
     qsizetype m_selStart = 0;
     qsizetype m_selLength = 0;
 };

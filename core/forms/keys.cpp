@@ -100,7 +100,8 @@ bool Form::userPaste(const QString &text)
 
 void Form::userEdited(Edit &edit, const QString &text, qsizetype caret)
 {
-    carryOut([&] { edit.assign(text, caret); });
+    if (accepts(edit) && !edit.isLocked())
+        carryOut([&] { edit.assign(text, caret); });
 }
 
 bool Form::userKey(Key key)
@@ -138,6 +139,20 @@ bool Form::namedKey(Key key)
     return m_active && listKey(*m_active, key);
 }
 
+namespace {
+
+/// A letter on or back; a selection is left at its end in that direction.
+void moveCaret(Edit &edit, bool onward)
+{
+    const qsizetype end = edit.selStart() + edit.selLength();
+    if (edit.selLength() > 0)
+        edit.select(onward ? end : edit.selStart(), 0);
+    else
+        edit.select(onward ? end + 1 : edit.selStart() - 1, 0);
+}
+
+} // namespace
+
 bool Form::editKey(Edit &edit, Key key)
 {
     auto *const combo = dynamic_cast<Combo *>(&edit);
@@ -151,10 +166,8 @@ bool Form::editKey(Edit &edit, Key key)
             edit.erase(false);
         return true;
     case Key::Left:
-        edit.select(edit.selLength() > 0 ? edit.selStart() : edit.selStart() - 1, 0);
-        return true;
     case Key::Right:
-        edit.select(edit.selStart() + std::max<qsizetype>(edit.selLength(), 1), 0);
+        moveCaret(edit, (key == Key::Right) == edit.isLeftToRight());
         return true;
     case Key::Home:
         edit.select(0, 0);

@@ -1,0 +1,114 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/button_binders.h"
+
+#include "qt/form_window.h"
+
+#include <QCheckBox>
+#include <QEvent>
+#include <QPushButton>
+#include <QRadioButton>
+
+namespace zrv {
+
+namespace {
+
+/// A click of the widget is the user's; what the widget then shows is the control's, which may have refused.
+void passClicks(QAbstractButton &widget, FormWindow &window, Binder &binder)
+{
+    QObject::connect(&widget, &QAbstractButton::clicked, &widget, [&] {
+        window.enter([&] { window.form().userClick(binder.control()); });
+        binder.refresh(Aspect::Checked);
+    });
+}
+
+} // namespace
+
+ButtonBinder::ButtonBinder(Button &button, FormWindow &window)
+    : Binder(button, window)
+    , m_button(button)
+    , m_widget(new QPushButton(window.groundOf(button.container())))
+{
+    adopt(*m_widget);
+    passClicks(*m_widget, window, *this);
+}
+
+QWidget *ButtonBinder::widget() const
+{
+    return m_widget;
+}
+
+void ButtonBinder::refresh(Aspect aspect)
+{
+    switch (aspect) {
+    case Aspect::Caption:
+        m_widget->setText(m_button.caption());
+        break;
+    case Aspect::DefaultOrCancel:
+        m_widget->setDefault(m_button.isDefault());
+        break;
+    case Aspect::Colors:
+        break; // Buttons look alike everywhere.
+    default:
+        Binder::refresh(aspect);
+    }
+}
+
+CheckBinder::CheckBinder(CheckBox &box, FormWindow &window)
+    : Binder(box, window)
+    , m_box(box)
+    , m_widget(new QCheckBox(window.groundOf(box.container())))
+{
+    adopt(*m_widget);
+    passClicks(*m_widget, window, *this);
+}
+
+QWidget *CheckBinder::widget() const
+{
+    return m_widget;
+}
+
+void CheckBinder::refresh(Aspect aspect)
+{
+    if (aspect == Aspect::Caption)
+        m_widget->setText(m_box.caption());
+    else if (aspect == Aspect::Checked)
+        m_widget->setChecked(m_box.isChecked());
+    else
+        Binder::refresh(aspect);
+}
+
+OptionBinder::OptionBinder(OptionButton &option, FormWindow &window)
+    : Binder(option, window)
+    , m_option(option)
+    , m_widget(new QRadioButton(window.groundOf(option.container())))
+{
+    adopt(*m_widget);
+    // The form clears the others of the group.
+    m_widget->setAutoExclusive(false);
+    passClicks(*m_widget, window, *this);
+}
+
+QWidget *OptionBinder::widget() const
+{
+    return m_widget;
+}
+
+void OptionBinder::refresh(Aspect aspect)
+{
+    if (aspect == Aspect::Caption)
+        m_widget->setText(m_option.caption());
+    else if (aspect == Aspect::Checked)
+        m_widget->setChecked(m_option.isChecked());
+    else
+        Binder::refresh(aspect);
+}
+
+bool OptionBinder::special(QEvent &event)
+{
+    if (event.type() != QEvent::MouseButtonDblClick)
+        return false;
+    m_window.enter([this] { form().userDblClick(m_option); });
+    return true;
+}
+
+} // namespace zrv

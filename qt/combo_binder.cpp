@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/combo_binder.h"
+
+#include "qt/field_edit.h"
+#include "qt/form_window.h"
+#include "qt/look.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+namespace zrv {
+
+ComboBinder::ComboBinder(Combo &combo, FormWindow &window)
+    : Binder(combo, window)
+    , m_combo(combo)
+    , m_widget(new QComboBox(window.groundOf(combo.container())))
+    , m_field(new FieldEdit(combo, window, m_widget))
+{
+    adopt(*m_widget);
+    m_widget->setEditable(true);
+    m_widget->setLineEdit(m_field);
+    m_widget->setCompleter(nullptr);
+    m_widget->setInsertPolicy(QComboBox::NoInsert);
+    m_widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_widget->setMinimumContentsLength(12);
+    m_widget->setMaxVisibleItems(12);
+    m_field->setFocusPolicy(Qt::TabFocus);
+    QObject::connect(m_widget, &QComboBox::activated, m_widget, [this](int row) {
+        m_window.enter([this, row] { form().userChoose(m_combo, row); });
+        refresh(Aspect::Text);
+    });
+}
+
+QWidget *ComboBinder::widget() const
+{
+    return m_widget;
+}
+
+QWidget *ComboBinder::input() const
+{
+    return m_field;
+}
+
+bool ComboBinder::keepsKey(const QKeyEvent &event) const
+{
+    return FieldEdit::keepsKey(event) || Binder::keepsKey(event);
+}
+
+void ComboBinder::openList()
+{
+    if (m_combo.isLocked() || !m_window.pressed(m_combo))
+        return;
+    const QSignalBlocker quiet(m_widget);
+    // The list opens at the row that is shown.
+    m_field->quietly([this] { m_widget->setCurrentIndex(m_combo.listIndex()); });
+    m_field->showText();
+    m_widget->showPopup();
+}
+
+bool ComboBinder::special(QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::Wheel:
+        // A wheel over a closed list would change the record that is being looked through.
+        event.ignore();
+        return true;
+    case QEvent::KeyPress: {
+        const auto &key = static_cast<const QKeyEvent &>(event);
+        const bool altDown =
+            key.modifiers() & Qt::AltModifier && (key.key() == Qt::Key_Down || key.key() == Qt::Key_Up);
+        if (key.key() != Qt::Key_F4 && !altDown)
+            return false;
+        openList();
+        return true;
+    }
+    case QEvent::MouseButtonPress:
+        // The field handles presses on itself; this is the arrow.
+        openList();
+        return true;
+    default:
+        return false;
+    }
+}
+
+void ComboBinder::refresh(Aspect aspect)
+{
+    switch (aspect) {
+    case Aspect::Items: {
+        const QSignalBlocker quiet(m_widget);
+        m_field->quietly([this] {
+            m_widget->clear();
+            for (const ListItem &item : m_combo.items())
+                m_widget->addItem(item.shown);
+            m_widget->setCurrentIndex(-1);
+        });
+        m_field->showText();
+        break;
+    }
+    case Aspect::Text:
+        m_field->showText();
+        break;
+    case Aspect::Selection:
+        m_field->showSelection();
+        break;
+    case Aspect::Locked:
+        m_field->showLocked();
+        break;
+    case Aspect::Colors:
+        look::colorField(*m_widget, m_combo.backColor(), m_combo.textColor());
+        look::colorField(*m_field, m_combo.backColor(), m_combo.textColor());
+        break;
+    default:
+        Binder::refresh(aspect);
+    }
+}
+
+} // namespace zrv

@@ -1,0 +1,234 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/field_edit.h"
+
+#include "core/forms/form.h"
+#include "qt/difference.h"
+#include "qt/edit_menu.h"
+#include "qt/form_window.h"
+
+#include <QClipboard>
+#include <QDropEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QScopedValueRollback>
+
+namespace zrv {
+
+FieldEdit::FieldEdit(Edit &edit, FormWindow &window, QWidget *parent)
+    : QLineEdit(parent)
+    , m_edit(edit)
+    , m_window(window)
+{
+    if (edit.isLeftToRight()) {
+        setLayoutDirection(Qt::LeftToRight);
+        setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+    }
+    connect(this, &QLineEdit::textChanged, this, [this] { textEditedByWidget(); });
+    connect(this, &QLineEdit::selectionChanged, this, [this] { selectionMovedByWidget(); });
+    connect(this, &QLineEdit::cursorPositionChanged, this, [this] { selectionMovedByWidget(); });
+}
+
+// From the control to the widget ------------------------------------------------------------------------------
+
+void FieldEdit::showText()
+{
+    const QScopedValueRollback showing(m_showing, true);
+    if (text() == m_edit.text())
+        return;
+    if (m_window.isTyping(m_edit)) {
+        const Difference change = difference(text(), m_edit.text());
+        setSelection(static_cast<int>(change.start), static_cast<int>(change.removed));
+        insert(change.inserted);
+    }
+    if (text() != m_edit.text())
+        setText(m_edit.text());
+    showSelection();
+}
+
+void FieldEdit::showSelection()
+{
+    const QScopedValueRollback showing(m_showing, true);
+    const int start = static_cast<int>(m_edit.selStart());
+    if (m_edit.selLength() > 0)
+        setSelection(start, static_cast<int>(m_edit.selLength()));
+    else
+        setCursorPosition(start);
+}
+
+void FieldEdit::showLocked()
+{
+    setReadOnly(m_edit.isLocked());
+}
+
+void FieldEdit::quietly(const std::function<void()> &action)
+{
+    const QScopedValueRollback showing(m_showing, true);
+    action();
+}
+
+// From the user to the form -----------------------------------------------------------------------------------
+
+void FieldEdit::enterText(const QString &text)
+{
+    m_window.enterTyping(&m_edit, [&] { m_edit.form().userPaste(text); });
+}
+
+void FieldEdit::pasteClipboard()
+{
+    enterText(QGuiApplication::clipboard()->text());
+}
+
+void FieldEdit::textEditedByWidget()
+{
+    if (m_showing || text() == m_edit.text())
+        return;
+    Form &form = m_edit.form();
+    if (!form.isBusy() && form.userFocus(m_edit) && m_edit.hasFocus() && !m_edit.isLocked()) {
+        const QString edited = text();
+        const int caret = cursorPosition();
+        const Difference change = difference(m_edit.text(), edited);
+        m_window.enterTyping(&m_edit, [&] {
+            if (m_restoring || change.inserted.isEmpty()) {
+                form.userEdited(m_edit, edited, caret);
+            } else if (!dynamic_cast<Combo *>(&m_edit)) {
+                // The text of a row that was picked in a combo's list also comes here; the pick itself follows.
+                m_edit.select(change.start, change.removed);
+                form.userPaste(change.inserted);
+            }
+        });
+    }
+    showText();
+}
+
+void FieldEdit::selectionMovedByWidget()
+{
+    if (m_showing || text() != m_edit.text())
+        return;
+    const QScopedValueRollback showing(m_showing, true);
+    if (hasSelectedText())
+        m_edit.select(selectionStart(), selectionLength());
+    else
+        m_edit.select(cursorPosition(), 0);
+}
+
+void FieldEdit::restore(void (QLineEdit::*undoOrRedo)())
+{
+    const QScopedValueRollback restoring(m_restoring, true);
+    (this->*undoOrRedo)();
+}
+
+// Events --------------------------------------------------------------------------------------------------------
+
+bool FieldEdit::keepsKey(const QKeyEvent &event)
+{
+    switch (event.key()) {
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+    case Qt::Key_Insert:
+        return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
+    case Qt::Key_Delete:
+        return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
+    case Qt::Key_Paste:
+    case Qt::Key_Copy:
+    case Qt::Key_Cut:
+    case Qt::Key_Undo:
+    case Qt::Key_Redo:
+        return true;
+    default:
+        return false;
+    }
+}
+
+void FieldEdit::keyPressEvent(QKeyEvent *event)
+{
+    if (event->matches(QKeySequence::Paste))
+        pasteClipboard();
+    else if (event->matches(QKeySequence::Undo))
+        restore(&QLineEdit::undo);
+    else if (event->matches(QKeySequence::Redo))
+        restore(&QLineEdit::redo);
+    else
+        QLineEdit::keyPressEvent(event);
+}
+
+void FieldEdit::inputMethodEvent(QInputMethodEvent *event)
+{
+    const QString committed = event->commitString();
+    if (event->replacementLength() > 0) {
+        const qsizetype start = m_edit.selStart() + event->replacementStart();
+        m_edit.select(start, event->replacementLength());
+    }
+    // The widget shows what is being composed; what is done goes the way of every other text.
+    QInputMethodEvent composing(event->preeditString(), event->attributes());
+    QLineEdit::inputMethodEvent(&composing);
+    if (!committed.isEmpty())
+        enterText(committed);
+    event->accept();
+}
+
+void FieldEdit::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (event->button() != Qt::MiddleButton) {
+        QLineEdit::mouseReleaseEvent(event);
+        return;
+    }
+    enterText(QGuiApplication::clipboard()->text(QClipboard::Selection));
+    event->accept();
+}
+
+void FieldEdit::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (m_edit.isLocked() || m_edit.form().isBusy())
+        event->ignore();
+    else
+        QLineEdit::dragEnterEvent(event);
+}
+
+void FieldEdit::dropEvent(QDropEvent *event)
+{
+    if (!event->mimeData()->hasText() || !m_window.pressed(m_edit)) {
+        event->ignore();
+        return;
+    }
+    const int place = cursorPositionAt(event->position().toPoint());
+    // A piece of this field that is moved within it leaves its old place first.
+    qsizetype target = place;
+    if (event->source() == this && event->dropAction() == Qt::MoveAction) {
+        const qsizetype start = m_edit.selStart();
+        const qsizetype length = m_edit.selLength();
+        if (place > start)
+            target = std::max(start, place - length);
+        del();
+    }
+    m_edit.select(target, 0);
+    enterText(event->mimeData()->text());
+    // The source must not take anything away: that is done.
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
+void FieldEdit::contextMenuEvent(QContextMenuEvent *event)
+{
+    if (!m_window.pressed(m_edit))
+        return;
+    EditMenuState state;
+    state.canUndo = isUndoAvailable();
+    state.canRedo = isRedoAvailable();
+    state.hasSelection = hasSelectedText();
+    state.isLocked = isReadOnly();
+    state.hidesText = echoMode() != QLineEdit::Normal;
+    EditMenuActions actions;
+    actions.undo = [this] { restore(&QLineEdit::undo); };
+    actions.redo = [this] { restore(&QLineEdit::redo); };
+    actions.cut = [this] { cut(); };
+    actions.copy = [this] { copy(); };
+    actions.paste = [this] { pasteClipboard(); };
+    actions.remove = [this] { del(); };
+    actions.selectAll = [this] { selectAll(); };
+    showEditMenu(*this, event->globalPos(), state, actions);
+}
+
+} // namespace zrv

@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/form_window.h"
+
+#include "qt/binder.h"
+#include "qt/keyboard.h"
+#include "qt/layouts/layouts.h"
+#include "qt/look.h"
+#include "qt/qt_platform.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace zrv {
+
+FormWindow::FormWindow(Form &form, QtPlatform &platform, QWidget *parent)
+    : QWidget(parent, Qt::Window)
+    , m_form(form)
+    , m_platform(platform)
+    , m_scroll(new QScrollArea(this))
+    , m_ground(new look::Ground)
+{
+    setObjectName(form.name());
+    setWindowModality(Qt::ApplicationModal);
+    auto *const outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(0);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(m_ground);
+    outer->addWidget(m_scroll);
+    makeBinders();
+    layOut(*this);
+    for (Control *control : form.controls())
+        binderOf(*control).refreshAll();
+    captionChanged();
+    form.setView(this);
+}
+
+FormWindow::~FormWindow()
+{
+    m_form.setView(nullptr);
+}
+
+void FormWindow::makeBinders()
+{
+    for (Control *control : m_form.controls()) {
+        auto binder = makeBinder(*control, *this);
+        watch(*binder);
+        m_binders.emplace(control, std::move(binder));
+    }
+}
+
+void FormWindow::watch(Binder &binder)
+{
+    for (QWidget *part : {binder.widget(), binder.input(), binder.target()}) {
+        if (part && m_watched.emplace(part, &binder).second)
+            part->installEventFilter(this);
+    }
+}
+
+Binder &FormWindow::binderOf(const Control &control) const
+{
+    return *m_binders.at(&control);
+}
+
+QWidget *FormWindow::widgetFor(const Control &control) const
+{
+    return binderOf(control).widget();
+}
+
+QWidget *FormWindow::inputFor(const Control &control) const
+{
+    return binderOf(control).input();
+}
+
+QAction *FormWindow::actionFor(const Control &control) const
+{
+    return binderOf(control).action();
+}
+
+QWidget *FormWindow::groundOf(Container &container) const
+{
+    const Control *const control = container.containerControl();
+    return control ? widgetFor(*control) : m_ground;
+}
+
+QMenuBar *FormWindow::menuBar()
+{
+    if (!m_menuBar) {
+        m_menuBar = new QMenuBar(this);
+        layout()->setMenuBar(m_menuBar);
+    }
+    return m_menuBar;
+}
+
+QStatusBar *FormWindow::statusBar()
+{
+    if (!m_statusBar) {
+        m_statusBar = new QStatusBar(this);
+        layout()->addWidget(m_statusBar);
+    }
+    return m_statusBar;
+}
+
+// From the form -------------------------------------------------------------------------------------------------
+
+void FormWindow::controlChanged(Control &control, Aspect aspect)
+{
+    if (aspect != Aspect::DefaultOrCancel) {
+        binderOf(control).refresh(aspect);
+        return;
+    }
+    // The role was taken from another button.
+    for (Control *other : m_form.controls())
+        if (other->kind() == ControlKind::Button)
+            binderOf(*other).refresh(aspect);
+}
+
+void FormWindow::focusMoved(Control *control)
+{
+    Q_UNUSED(control);
+    syncFocus();
+}
+
+void FormWindow::captionChanged()
+{
+    setWindowTitle(m_form.caption());
+}
+
+void FormWindow::closed()
+{
+    // A screen reader that holds on to the focused cell must let go before the widgets are gone.
+    if (QWidget *const focused = focusWidget())
+        focused->clearFocus();
+    hide();
+    m_platform.wake();
+}
+
+void FormWindow::syncFocus()
+{
+    QWidget *const now = focusWidget();
+    if (QApplication::activePopupWidget() || qobject_cast<QMenuBar *>(now))
+        return;
+    Control *const active = m_form.activeControl();
+    QWidget *const wanted = active ? inputFor(*active) : nullptr;
+    if (wanted == now)
+        return;
+    if (wanted) {
+        wanted->setFocus(Qt::OtherFocusReason);
+        if (m_scroll->verticalScrollBar()->isVisible() && m_ground->isAncestorOf(wanted))
+            m_scroll->ensureWidgetVisible(wanted);
+    } else {
+        now->clearFocus();
+    }
+}
+
+// From the user -------------------------------------------------------------------------------------------------
+
+void FormWindow::enter(const std::function<void()> &action)
+{
+    m_platform.enter(action);
+    if (!m_platform.isEnding() && m_form.isOpen() && !m_form.isBusy())
+        syncFocus();
+}
+
+void FormWindow::enterTyping(const Control *field, const std::function<void()> &action)
+{
+    const QScopedValueRollback typing(m_typingIn, field);
+    enter(action);
+}
+
+bool FormWindow::pressed(Control &control)
+{
+    if (!control.takesFocus())
+        return true;
+    bool taken = false;
+    enter([&] { taken = m_form.userFocus(control) && control.hasFocus(); });
+    return taken && !m_form.isBusy();
+}
+
+/// True when the form has taken the key; false leaves it to the widget.
+bool FormWindow::keyPressed(Binder *binder, const QKeyEvent &event)
+{
+    if (binder && binder->keepsKey(event))
+        return false;
+    const auto *const field = dynamic_cast<const Edit *>(m_form.activeControl());
+    if (const std::optional<Key> key = namedKey(event)) {
+        // A key that is held down must not click its way through boxes that come up meanwhile.
+        const bool once = *key == Key::Enter || *key == Key::Escape;
+        if (once && event.isAutoRepeat())
+            return true;
+        if (*key == Key::F10 && m_menuBar && !m_menuBar->actions().isEmpty()) {
+            m_menuBar->setFocus(Qt::MenuBarFocusReason);
+            m_menuBar->setActiveAction(m_menuBar->actions().constFirst());
+            return true;
+        }
+        enterTyping(field, [&] { m_form.userKey(*key); });
+        return true;
+    }
+    const QString letters = typedLetters(event, field && field->isLeftToRight());
+    if (letters.isEmpty())
+        return false;
+    enterTyping(field, [&] { letters.size() == 1 ? m_form.userLetter(letters.front()) : m_form.userPaste(letters); });
+    return true;
+}
+
+bool FormWindow::watchedEvent(Binder &binder, QObject *object, QEvent &event)
+{
+    switch (event.type()) {
+    case QEvent::KeyPress:
+        if (object != binder.input())
+            return false;
+        return binder.special(event) || keyPressed(&binder, static_cast<const QKeyEvent &>(event));
+    case QEvent::FocusIn:
+        // Qt moves the focus by itself where the window becomes active or a screen reader asks for it.
+        if (object == binder.input() && &binder.control() != m_form.activeControl() && !m_form.isBusy())
+            enter([&] { m_form.userFocus(binder.control()); });
+        return false;
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick: {
+        const auto kind = binder.control().kind();
+        const bool isField = kind != ControlKind::Button && kind != ControlKind::CheckBox
+                             && kind != ControlKind::OptionButton && kind != ControlKind::Tabs;
+        if (object == binder.target() && isField && !pressed(binder.control()))
+            return true;
+        // A field in a combo box is the target; what is left of the box is its arrow.
+        return object == binder.widget() && binder.special(event);
+    }
+    case QEvent::MouseButtonRelease:
+    case QEvent::Wheel:
+        return object == binder.widget() && binder.special(event);
+    default:
+        return false;
+    }
+}
+
+bool FormWindow::eventFilter(QObject *object, QEvent *event)
+{
+    const auto watched = m_watched.find(object);
+    return watched != m_watched.end() && watchedEvent(*watched->second, object, *event);
+}
+
+void FormWindow::keyPressEvent(QKeyEvent *event)
+{
+    // Only keys that no control's widget has seen: those of a control come up from it a second time.
+    if (!m_watched.contains(focusWidget()) && keyPressed(nullptr, *event))
+        return;
+    QWidget::keyPressEvent(event);
+}
+
+bool FormWindow::focusNextPrevChild(bool next)
+{
+    Q_UNUSED(next);
+    return false;
+}
+
+void FormWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    enter([this] { m_form.userClose(); });
+}
+
+// Size and place ------------------------------------------------------------------------------------------------
+
+QSize FormWindow::fittingSize() const
+{
+    const QSize room = screen()->availableSize() - QSize(8, 40); // what a window manager draws around it
+    QSize size = m_ground->sizeHint().expandedTo(m_ground->minimumSizeHint());
+    if (m_menuBar)
+        size.rheight() += m_menuBar->sizeHint().height();
+    if (m_statusBar)
+        size.rheight() += m_statusBar->sizeHint().height();
+    // A window that is cut in height needs room for the bar that scrolls it.
+    if (size.height() > room.height())
+        size.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
+    return size.boundedTo(room);
+}
+
+void FormWindow::open()
+{
+    resize(fittingSize());
+    const QWidget *const over = parentWidget();
+    const QRect around = over && over->isVisible() ? over->frameGeometry() : screen()->availableGeometry();
+    const QRect room = screen()->availableGeometry();
+    QPoint corner = around.center() - rect().center();
+    corner.setX(std::clamp(corner.x(), room.left(), std::max(room.left(), room.right() - width())));
+    corner.setY(std::clamp(corner.y(), room.top(), std::max(room.top(), room.bottom() - height())));
+    move(corner);
+    show();
+}
+
+} // namespace zrv

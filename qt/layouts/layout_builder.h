@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QString>
+
+#include <initializer_list>
+#include <utility>
+
+class QBoxLayout;
+class QLayout;
+class QWidget;
+
+namespace zrv {
+
+class FormWindow;
+
+/// The words in which a layout is written: a layout is one expression of columns, lines, fields and frames that names
+/// each control of its screen once.
+///
+///     b.fill(b.column({b.heading(u"LabelFormHeader"), b.inside(u"framKey", b.fields({{u"lblTFN", u"txtTFN"}}))}));
+class LayoutBuilder {
+public:
+    /// A control by its name, or a group of cells that was made before; empty: free room that takes up what is left.
+    struct Cell {
+        Cell(const char16_t *controlName)
+            : name(QString::fromUtf16(controlName))
+        {
+        }
+        Cell(QWidget *laidOut)
+            : widget(laidOut)
+        {
+        }
+        Cell(QLayout *group)
+            : layout(group)
+        {
+        }
+        Cell() = default;
+
+        QString name;
+        QWidget *widget = nullptr;
+        QLayout *layout = nullptr;
+        int share = 0; ///< of the free room; 0 takes what the cell needs
+    };
+    using Cells = std::initializer_list<Cell>;
+
+    explicit LayoutBuilder(FormWindow &window);
+
+    /// Below each other, beside each other, or so many to a line.
+    QLayout *column(Cells cells);
+    QLayout *line(Cells cells);
+    QLayout *table(int columns, Cells cells);
+    /// Labels with their fields, so many pairs to a line. The label names its field to screen readers.
+    QLayout *fields(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs, int pairsPerLine = 1);
+    /// The same with labels that show a value instead of fields.
+    QLayout *values(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs, int pairsPerLine = 1);
+    /// Buttons of one width at the leading side of their line.
+    QLayout *buttons(Cells cells);
+    /// Cells laid out in the widget of a container.
+    Cell inside(const char16_t *container, QLayout *cells);
+    /// Cells on a panel of their own, without a control behind it.
+    Cell panel(QLayout *cells);
+    /// Cells in the middle of the window, no wider than they ask for.
+    QLayout *middle(QLayout *cells);
+    /// A share of the free room for a cell.
+    static Cell wide(Cell cell, int share = 1);
+    static Cell room() { return {}; }
+
+    Cell heading(const char16_t *label);
+    Cell note(const char16_t *label);
+    Cell remark(const char16_t *label);
+    Cell value(const char16_t *label);
+    Cell tile(const char16_t *button);
+
+    /// The whole layout; the last word of a layout.
+    void fill(QLayout *cells);
+    /// A quiet drawing behind everything.
+    void drawGround();
+    /// The window is at least so many letters wide, and so many lines high.
+    void atLeast(int letters, int lines);
+
+private:
+    QWidget *widget(const QString &name) const;
+    void add(QBoxLayout &box, const Cell &cell) const;
+
+    FormWindow &m_window;
+};
+
+} // namespace zrv

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/look.h"
+
+#include "qt/style.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPainter>
+#include <QPainterPath>
+#include <QStyleOption>
+#include <QTranslator>
+
+#include <cmath>
+#include <numbers>
+
+namespace zrv::look {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr QRgb Ink = 0xFF1F2429;
+constexpr QRgb PaleInk = 0xFF5C5A54; ///< what is switched off, and remarks
+constexpr QRgb Accent = 0xFF24596E;  ///< focus, the default button, headings
+constexpr QRgb AccentPale = 0xFFDCE6E9;
+constexpr QRgb Paper = 0xFFFFFFFF;
+constexpr QRgb PaperShade = 0xFFF6F5F0;
+
+constexpr QRgb solid(Color color)
+{
+    return 0xFF000000 | color;
+}
+
+} // namespace
+
+void setUp(QApplication &application)
+{
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    QApplication::setStyle(new Style);
+    QApplication::setPalette(palette());
+    QFont font;
+    font.setFamilies({u"Noto Sans Arabic"_s, u"Noto Sans"_s, u"DejaVu Sans"_s});
+    font.setPointSizeF(10.5);
+    QApplication::setFont(font);
+    // Only the main form's question ends the program, not the last window that happens to be hidden.
+    QApplication::setQuitOnLastWindowClosed(false);
+    Q_UNUSED(application);
+}
+
+void speakPersian()
+{
+    static QTranslator *spoken = nullptr;
+    if (spoken)
+        return;
+    spoken = new QTranslator(qApp);
+    if (spoken->load(QLocale(QLocale::Persian), u"qtbase"_s, u"_"_s,
+                     QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(spoken);
+}
+
+QPalette palette()
+{
+    QPalette colors;
+    const auto set = [&](QPalette::ColorRole role, QRgb enabled, QRgb disabled) {
+        colors.setColor(QPalette::Active, role, enabled);
+        colors.setColor(QPalette::Inactive, role, enabled);
+        colors.setColor(QPalette::Disabled, role, disabled);
+    };
+    // clang-format off
+    set(QPalette::Window,          solid(color::Window), solid(color::Window));
+    set(QPalette::WindowText,      Ink,                  PaleInk);
+    set(QPalette::Base,            Paper,                solid(color::Disabled));
+    set(QPalette::AlternateBase,   PaperShade,           solid(color::Disabled));
+    set(QPalette::Text,            Ink,                  PaleInk);
+    set(QPalette::PlaceholderText, PaleInk,              PaleInk);
+    set(QPalette::Button,          PaperShade,           solid(color::Disabled));
+    set(QPalette::ButtonText,      Ink,                  PaleInk);
+    set(QPalette::BrightText,      Paper,                PaleInk);
+    set(QPalette::Highlight,       Accent,               0xFFCFCDC6);
+    set(QPalette::HighlightedText, Paper,                PaleInk);
+    set(QPalette::Link,            Accent,               PaleInk);
+    set(QPalette::ToolTipBase,     Paper,                Paper);
+    set(QPalette::ToolTipText,     Ink,                  Ink);
+    set(QPalette::Light,           0xFFF8F7F4,           0xFFF8F7F4);
+    set(QPalette::Midlight,        0xFFE4E2DB,           0xFFE4E2DB);
+    set(QPalette::Mid,             0xFFB8B5AA,           0xFFCBC8BE);
+    set(QPalette::Dark,            0xFF8F8C82,           0xFFA9A69C);
+    set(QPalette::Shadow,          0xFF6B6860,           0xFF8F8C82);
+    // clang-format on
+    return colors;
+}
+
+void colorField(QWidget &field, Color back, Color text)
+{
+    QPalette colors = field.palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        colors.setColor(group, QPalette::Base, QColor::fromRgb(solid(back)));
+        colors.setColor(group, QPalette::Text,
+                        text == color::Text ? QColor::fromRgb(Ink) : QColor::fromRgb(solid(text)));
+    }
+    field.setPalette(colors);
+}
+
+// Kinds of widgets ----------------------------------------------------------------------------------------------
+
+namespace {
+
+void setInk(QWidget &widget, QRgb ink)
+{
+    QPalette colors = widget.palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+        colors.setColor(group, QPalette::WindowText, QColor::fromRgb(ink));
+    widget.setPalette(colors);
+}
+
+void scaleFont(QWidget &widget, double factor, QFont::Weight weight)
+{
+    QFont font = widget.font();
+    font.setPointSizeF(font.pointSizeF() * factor);
+    font.setWeight(weight);
+    widget.setFont(font);
+}
+
+} // namespace
+
+void makeHeading(QWidget &label)
+{
+    scaleFont(label, 1.25, QFont::DemiBold);
+    setInk(label, Accent);
+    makeNote(label);
+}
+
+void makeNote(QWidget &label)
+{
+    if (auto *text = qobject_cast<QLabel *>(&label)) {
+        text->setAlignment(Qt::AlignCenter);
+        text->setWordWrap(true);
+    }
+}
+
+void makeRemark(QWidget &label)
+{
+    scaleFont(label, 0.9, QFont::Normal);
+    setInk(label, PaleInk);
+    makeNote(label);
+}
+
+void makeValue(QWidget &label)
+{
+    label.setMinimumWidth(label.fontMetrics().horizontalAdvance(u'0') * 16);
+    label.setAutoFillBackground(true);
+    QPalette colors = label.palette();
+    colors.setColor(QPalette::Window, QColor::fromRgb(PaperShade));
+    label.setPalette(colors);
+    label.setContentsMargins(6, 2, 6, 2);
+}
+
+void makeTile(QWidget &button)
+{
+    button.setMinimumHeight(button.fontMetrics().height() * 2);
+    button.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+}
+
+// Drawings ------------------------------------------------------------------------------------------------------
+
+namespace {
+
+/// An eight-pointed star, two squares laid over each other.
+QPainterPath star(const QPointF &center, double radius)
+{
+    QPainterPath path;
+    for (int turn = 0; turn < 2; ++turn) {
+        QPolygonF square;
+        for (int corner = 0; corner <= 4; ++corner) {
+            const double angle = std::numbers::pi * (corner / 2.0 + turn / 4.0 + 0.25);
+            square << center + QPointF(std::cos(angle), std::sin(angle)) * radius;
+        }
+        path.addPolygon(square);
+    }
+    return path;
+}
+
+} // namespace
+
+QSize markSize(const QWidget &widget)
+{
+    const int side = widget.fontMetrics().height() * 5;
+    return {side, side};
+}
+
+void paintMark(QPainter &painter, const QRect &room)
+{
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QPointF center = QRectF(room).center();
+    const double radius = std::min(room.width(), room.height()) * 0.46;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor::fromRgb(AccentPale));
+    painter.drawPath(star(center, radius).simplified());
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(QColor::fromRgb(Accent), std::max(1.5, radius / 24)));
+    painter.drawPath(star(center, radius * 0.86));
+    painter.setBrush(QColor::fromRgb(Accent));
+    painter.drawEllipse(center, radius * 0.16, radius * 0.16);
+}
+
+void Panel::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event);
+    QPainter painter(this);
+    QStyleOption option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameGroupBox, &option, &painter, this);
+}
+
+void Ground::paintEvent(QPaintEvent *event)
+{
+    Q_UNUSED(event);
+    QPainter painter(this);
+    painter.fillRect(rect(), QWidget::palette().color(QPalette::Window));
+    if (!m_drawn)
+        return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setBrush(Qt::NoBrush);
+    const double step = fontMetrics().height() * 4.0;
+    painter.setPen(QPen(QColor::fromRgb(0xFFE3E1DA), 1.2));
+    for (double y = 0; y < height() + step; y += step)
+        for (double x = 0; x < width() + step; x += step)
+            painter.drawPath(star({x, y}, step * 0.5));
+}
+
+} // namespace zrv::look

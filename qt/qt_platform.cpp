@@ -1,0 +1,188 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/qt_platform.h"
+
+#include "core/basic/run_time_error.h"
+#include "core/mdlError.h"
+#include "qt/form_window.h"
+#include "qt/look.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace zrv {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+/// The screens write paths with the separator of their users' handbook.
+QString nativePath(QString path)
+{
+    return path.replace(u'\\', u'/');
+}
+
+QSettings userSettings()
+{
+    return {QSettings::IniFormat, QSettings::UserScope, u"RegZRVClient"_s, u"RegZRVClient"_s};
+}
+
+} // namespace
+
+QtPlatform::QtPlatform() = default;
+QtPlatform::~QtPlatform() = default;
+
+// Windows -------------------------------------------------------------------------------------------------------
+
+void QtPlatform::runModal(Form &form)
+{
+    if (m_windows.empty())
+        m_ending = false;
+    FormWindow window(form, *this, topWindow());
+    m_windows.push_back(&window);
+    struct Leave {
+        std::vector<FormWindow *> &windows;
+        ~Leave() { windows.pop_back(); }
+    } const leave{m_windows};
+    window.open();
+    form.activate();
+    window.syncFocus();
+    if (form.isOpen() && !m_ending)
+        waitWhileOpen(form);
+    if (m_ending)
+        throw ProgramEnd{};
+}
+
+void QtPlatform::waitWhileOpen(Form &form)
+{
+    waitUntil([&form] { return !form.isOpen(); });
+}
+
+void QtPlatform::waitUntil(const std::function<bool()> &isOver)
+{
+    while (!isOver() && !m_ending) {
+        QEventLoop loop;
+        m_loops.push_back(&loop);
+        loop.exec();
+        m_loops.pop_back();
+    }
+}
+
+void QtPlatform::wake()
+{
+    for (QEventLoop *loop : m_loops)
+        loop->quit();
+}
+
+void QtPlatform::end()
+{
+    m_ending = true;
+    wake();
+}
+
+void QtPlatform::enter(const std::function<void()> &action)
+{
+    try {
+        try {
+            action();
+        } catch (const RunTimeError &failure) {
+            ShowUnknownError(*this, failure);
+        } catch (const std::exception &failure) {
+            ShowUnknownError(*this, RunTimeError(error::InvalidProcedureCall, QString::fromUtf8(failure.what())));
+        }
+    } catch (const ProgramEnd &) {
+        end();
+    }
+}
+
+FormWindow *QtPlatform::windowOf(const Form &form) const
+{
+    const auto place =
+        std::ranges::find_if(m_windows, [&](const FormWindow *window) { return &window->form() == &form; });
+    return place == m_windows.end() ? nullptr : *place;
+}
+
+FormWindow *QtPlatform::topWindow() const
+{
+    return m_windows.empty() ? nullptr : m_windows.back();
+}
+
+void QtPlatform::yield()
+{
+    QCoreApplication::processEvents();
+}
+
+// Files ---------------------------------------------------------------------------------------------------------
+
+std::optional<QString> QtPlatform::openFileDialog(const QString &folder, const QString &filter)
+{
+    look::speakPersian();
+    QFileDialog dialog(topWindow(), QString(), nativePath(folder), filter);
+    dialog.setObjectName(u"fileDialog"_s);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    // The desktop's own dialogue speaks the desktop's language and direction.
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setWindowModality(Qt::ApplicationModal);
+    QObject::connect(&dialog, &QDialog::finished, &dialog, [this] { wake(); });
+    dialog.show();
+    waitUntil([&] { return !dialog.isVisible(); });
+    if (m_ending)
+        throw ProgramEnd{};
+    if (dialog.result() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return std::nullopt;
+    return dialog.selectedFiles().constFirst();
+}
+
+void QtPlatform::viewFile(const QString &path)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(nativePath(path)).absoluteFilePath()));
+}
+
+QString QtPlatform::programFolder()
+{
+    return QCoreApplication::applicationDirPath();
+}
+
+QString QtPlatform::desktopFolder()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);
+}
+
+// The machine ---------------------------------------------------------------------------------------------------
+
+QSize QtPlatform::displaySize()
+{
+    const QScreen *const display = QGuiApplication::primaryScreen();
+    return display->size() * display->devicePixelRatio();
+}
+
+QDate QtPlatform::today()
+{
+    return QDate::currentDate();
+}
+
+QTime QtPlatform::timeOfDay()
+{
+    return QTime::currentTime();
+}
+
+QString QtPlatform::setting(const QString &section, const QString &key, const QString &fallback)
+{
+    return userSettings().value(section + u"/"_s + key, fallback).toString();
+}
+
+void QtPlatform::saveSetting(const QString &section, const QString &key, const QString &value)
+{
+    QSettings settings = userSettings();
+    settings.setValue(section + u"/"_s + key, value);
+}
+
+} // namespace zrv

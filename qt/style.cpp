@@ -1,0 +1,186 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/style.h"
+
+#include <QPainter>
+#include <QStyleFactory>
+#include <QStyleOption>
+
+namespace zrv {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr double Radius = 4;
+
+/// A field's or button's body: a flat ground, a thin line round it, a thick one in the accent when it has the focus.
+void paintBody(QPainter &painter, const QStyleOption &option, const QColor &ground, bool focused)
+{
+    const QColor line = option.palette.color(focused ? QPalette::Highlight : QPalette::Mid);
+    const double width = focused ? 2 : 1;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(line, width));
+    painter.setBrush(ground);
+    const double inset = width / 2;
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), Radius, Radius);
+    painter.restore();
+}
+
+QColor buttonGround(const QStyleOptionButton &option)
+{
+    const bool isDefault = option.features & QStyleOptionButton::DefaultButton && option.state & QStyle::State_Enabled;
+    const QColor base = option.palette.color(isDefault ? QPalette::Highlight : QPalette::Button);
+    if (option.state & (QStyle::State_Sunken | QStyle::State_On))
+        return base.darker(112);
+    if (option.state & QStyle::State_MouseOver && option.state & QStyle::State_Enabled)
+        return isDefault ? base.lighter(118) : QColor(Qt::white);
+    return base;
+}
+
+void paintArrow(QPainter &painter, const QRect &room, const QColor &color)
+{
+    const double half = room.height() * 0.13;
+    const QPointF center = QRectF(room).center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(
+        QPolygonF({center + QPointF(-2 * half, -half), center + QPointF(0, half), center + QPointF(2 * half, -half)}));
+    painter.restore();
+}
+
+} // namespace
+
+Style::Style()
+    : QProxyStyle(QStyleFactory::create(u"Fusion"_s))
+{
+}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
+                          const QWidget *widget) const
+{
+    const bool focused = option->state & State_HasFocus && option->state & State_Enabled;
+    switch (element) {
+    case PE_PanelButtonCommand:
+        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option)) {
+            QStyleOptionButton body(*button);
+            paintBody(*painter, body, buttonGround(body), focused);
+            // On the filled default button the ring would not be seen at its edge.
+            if (focused && body.features & QStyleOptionButton::DefaultButton) {
+                painter->save();
+                painter->setRenderHint(QPainter::Antialiasing);
+                painter->setPen(QPen(Qt::white, 1.5));
+                painter->setBrush(Qt::NoBrush);
+                painter->drawRoundedRect(QRectF(body.rect).adjusted(3, 3, -3, -3), Radius - 1, Radius - 1);
+                painter->restore();
+            }
+            return;
+        }
+        break;
+    case PE_PanelLineEdit:
+        // The line edit inside a combo box has no frame of its own: the box draws one round both.
+        if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option)) {
+            if (frame->lineWidth > 0)
+                paintBody(*painter, *option, option->palette.color(QPalette::Base), focused);
+            return;
+        }
+        break;
+    case PE_FrameGroupBox:
+        painter->save();
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(QPen(option->palette.color(QPalette::Mid), 1));
+        painter->setBrush(option->palette.color(QPalette::Light));
+        painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), Radius + 2, Radius + 2);
+        painter->restore();
+        return;
+    case PE_FrameFocusRect:
+        if (const auto *item = qstyleoption_cast<const QStyleOptionFocusRect *>(option);
+            item && !(option->state & State_Item)) {
+            painter->save();
+            painter->setRenderHint(QPainter::Antialiasing);
+            painter->setPen(QPen(option->palette.color(QPalette::Highlight), 2));
+            painter->setBrush(Qt::NoBrush);
+            painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), Radius, Radius);
+            painter->restore();
+            return;
+        }
+        break;
+    default:
+        break;
+    }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
+                        const QWidget *widget) const
+{
+    if (element == CE_PushButtonLabel) {
+        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
+            button && button->features & QStyleOptionButton::DefaultButton && button->state & State_Enabled) {
+            QStyleOptionButton label(*button);
+            label.palette.setColor(QPalette::ButtonText, label.palette.color(QPalette::HighlightedText));
+            QProxyStyle::drawControl(element, &label, painter, widget);
+            return;
+        }
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
+                               const QWidget *widget) const
+{
+    const auto *const combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (control != CC_ComboBox || !combo || !combo->editable) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    const bool focused = combo->state & State_HasFocus && combo->state & State_Enabled;
+    paintBody(*painter, *combo, combo->palette.color(QPalette::Base), focused);
+    paintArrow(*painter, subControlRect(CC_ComboBox, combo, SC_ComboBoxArrow, widget),
+               combo->palette.color(QPalette::Text));
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
+{
+    switch (metric) {
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+        return 8;
+    case PM_LayoutLeftMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutBottomMargin:
+        return 12;
+    case PM_ButtonMargin:
+        return 14;
+    case PM_DefaultFrameWidth:
+        return 2;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                     QStyleHintReturn *returnData) const
+{
+    switch (hint) {
+    case SH_LineEdit_PasswordCharacter:
+        return '*';
+    case SH_UnderlineShortcut:
+        return 1;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
+                              const QWidget *widget) const
+{
+    QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
+    if (type == CT_PushButton)
+        size.rwidth() = std::max(size.width(), option->fontMetrics.averageCharWidth() * 14);
+    return size;
+}
+
+} // namespace zrv
