@@ -38,7 +38,7 @@ Status Player::play(std::vector<Line> lines)
     } catch (const ScenarioError &) {
         return Status::Unusable;
     } catch (const std::exception &failure) {
-        complain(u"    the program broke off: "_s + QString::fromUtf8(failure.what()));
+        complain(u"the program broke off: "_s + QString::fromUtf8(failure.what()));
         return Status::Failed;
     }
     return Status::Held;
@@ -54,7 +54,7 @@ void Player::playNextLine()
         complain(failure.message);
         throw;
     } catch (const ScenarioError &error) {
-        complain(u"    "_s + QString::fromUtf8(error.what()));
+        complain(QString::fromUtf8(error.what()));
         throw;
     }
 }
@@ -66,7 +66,7 @@ void Player::complain(const QString &message)
     if (!m_complaint.isEmpty() || m_next == 0)
         return;
     const Line &line = m_lines[m_next - 1];
-    m_complaint = line.place() + u": "_s + line.source + u'\n' + message;
+    m_complaint = line.place() + u": "_s + line.source + u"\n    "_s + QString(message).replace(u'\n', u"\n    "_s);
 }
 
 void Player::letUserAct(Form &form)
@@ -126,12 +126,12 @@ QString Player::path(const QString &written) const
 
 void failLine(const QString &message)
 {
-    throw LineFailed{u"    "_s + message};
+    throw LineFailed{message};
 }
 
 void failExpectation(const QString &expected, const QString &seen)
 {
-    throw LineFailed{u"    expected: "_s + expected + u"\n    seen:     "_s + seen};
+    throw LineFailed{u"expected: "_s + expected + u"\nseen:     "_s + seen};
 }
 
 } // namespace zrv::player

@@ -1,0 +1,39 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: GPL-3.0-or-later
+# Plays one scenario in a folder of its own, as its head asks (README.md beside this file tells how), or compares the
+# accounts of its two plays.
+#
+#   play.sh headless|widgets SCENARIO WORK BIN    WORK/headless or WORK/widgets is made afresh for it
+#   play.sh same SCENARIO WORK BIN                both have been played before
+set -euo pipefail
+way=$1 scenario=$2 work=$3 bin=$4
+
+# account WAY: the transcript of a play, with its folder as ${folder}, so that two plays can be compared.
+account() {
+    local text
+    text=$(<"$work/$1/transcript")
+    printf '%s\n' "${text//"$work/$1/folder"/'${folder}'}"
+}
+
+# make_store FOLDER: what the "#store" line of the scenario's head asks for.
+make_store() {
+    local words
+    read -ra words < <(sed -n -e '/^#/!q' -e 's/^#store //p' "$scenario" | head -n 1) || true
+    case ${words[0]-none} in
+        none) ;;
+        *) "$bin/zrvstore" "${words[0]}" "$1" "${words[@]:1}" >/dev/null ;;
+    esac
+}
+
+if [ "$way" = same ]; then
+    diff -u --label headless <(account headless) --label widgets <(account widgets)
+    exit
+fi
+
+here=$work/$way
+rm -rf "$here"
+mkdir -p "$here/folder"
+make_store "$here/folder"
+options=(--folder "$here/folder" --transcript "$here/transcript")
+[ "$way" = headless ] || options+=(--widgets)
+QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME=$here/config XDG_RUNTIME_DIR=$here exec "$bin/zrvplay" "${options[@]}" "$scenario"
