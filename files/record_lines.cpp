@@ -7,7 +7,7 @@
 namespace zrv {
 namespace {
 
-constexpr std::size_t BlockUnits = 64 * 1024; // 128 KiB
+constexpr std::size_t BlockUnits = 65536; // 128 KiB
 constexpr char16_t Mark = 0xFEFF;
 constexpr char16_t Separator = u',';
 

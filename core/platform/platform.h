@@ -26,10 +26,10 @@ inline constexpr int Foreground = 0x10000;
 inline constexpr int RightAligned = 0x80000;
 inline constexpr int RightToLeft = 0x100000;
 
-inline constexpr int Refusal = Critical | Foreground | RightAligned; ///< 0x90010
-inline constexpr int RefusalRtl = Refusal | RightToLeft;             ///< 0x190010
+inline constexpr int Refusal = Critical | Foreground | RightAligned;   ///< 0x90010
+inline constexpr int RefusalRtl = Refusal | RightToLeft;               ///< 0x190010
 inline constexpr int Notice = Information | Foreground | RightAligned; ///< 0x90040
-inline constexpr int AskYesNo = Question | YesNo;                    ///< 36
+inline constexpr int AskYesNo = Question | YesNo;                      ///< 36
 
 } // namespace box
 

@@ -44,8 +44,8 @@ MAX_FUNCTION = {"tests": 100, "": 60}
 
 LOCALE = re.compile(
     r"\b(QLocale|QCollator|localeAwareCompare|toLocal8Bit|fromLocal8Bit|setlocale|std::locale|std::to_string"
-    r"|std::sto[ild]+|ato[fil]|strto[dl]+|is(?:alpha|digit|space|upper|lower)|to(?:upper|lower)|isDigit|isNumber"
-    r"|isLetterOrNumber|digitValue)\b")
+    r"|std::sto[ild]+|ato[fil]|strto[dl]+|is(?:alpha|digit|space|upper|lower)|to(?:upper|lower))\b"
+    r"|(?:\.|\bQChar::)(?:isDigit|isNumber|isLetterOrNumber|digitValue)(?=\()")
 LOCALE_ARGUMENT = re.compile(r"%L\d")
 STRING_CONNECT = re.compile(r"\b(SIGNAL|SLOT)\s*\(")
 # A reader can follow neither a path of somebody's machine nor a chapter of a paper that isn't in this repository.
@@ -144,7 +144,7 @@ def locale(tree):
             code = comments_and_texts_blanked(text).splitlines()
             for number, (line, bare) in enumerate(zip(text.splitlines(), code), 1):
                 for match in (*LOCALE.finditer(bare), *LOCALE_ARGUMENT.finditer(line)):
-                    yield name, number, f"{match.group()} follows a locale or Unicode's idea of a digit"
+                    yield name, number, f"{match.group().strip('.')} follows a locale or Unicode's idea of a digit"
 
 
 def connects(tree):
@@ -191,11 +191,18 @@ def heads(tree):
 
 
 def unbuilt(tree):
-    """A source that no list names is dead, or a test that never runs."""
-    lists = [(Path(name).parent, text) for name, text in tree.files(".txt") if name.endswith("CMakeLists.txt")]
+    """A source that no list names, or a list that no other leads to, is dead, or a test that never runs."""
+    lists = {Path(name).parent: text for name, text in tree.files(".txt") if name.endswith("CMakeLists.txt")}
+    reached, waiting = set(), [Path(".")]
+    while waiting:
+        folder = waiting.pop()
+        reached.add(folder)
+        waiting += [folder / below for below in re.findall(r"^\s*add_subdirectory\(([\w./-]+)", lists.get(folder, ""), re.M)]
+    for folder in sorted(lists.keys() - reached):
+        yield f"{folder}/CMakeLists.txt", 1, "no add_subdirectory leads here"
     for name, _ in tree.files(".cpp"):
         if not any(re.search(rf"(?<![\w./-]){re.escape(os.path.relpath(name, folder))}(?![\w.])", text)
-                   for folder, text in lists):
+                   for folder, text in lists.items()):
             yield name, 1, "no CMakeLists.txt names it"
 
 

@@ -69,7 +69,7 @@ class LintTest(unittest.TestCase):
     def test_nothing_at_the_core_follows_a_locale(self):
         for code in ("QLocale().toString(1)", "c.isDigit()", "std::stoi(s)", 'u"%L1"_s.arg(n)', "isdigit(c)"):
             self.assert_one("locale", {"lists/a.cpp": f"x = {code};\n"}, "lists/a.cpp:1:")
-        self.assertEqual(self.findings("locale", {"lists/a.cpp": "// QLocale would group digits.\nx = toUpper();\n",
+        self.assertEqual(self.findings("locale", {"lists/a.cpp": "// QLocale would group digits.\nx = toUpper(isDigit(c));\n",
                                                   "qt/a.cpp": "QLocale l;\n"}), [])
 
     def test_connects_are_by_pointer(self):
@@ -94,11 +94,17 @@ class LintTest(unittest.TestCase):
         self.assertEqual(self.findings("heads", {"core/a.h": LICENCE + "#pragma once\n"}), [])
 
     def test_a_source_that_no_list_names_is_found(self):
-        lists = {"core/CMakeLists.txt": "zrv_library(x SOURCES a.cpp sub/c.cpp)\n"}
-        self.assertEqual(self.findings("unbuilt", {**lists, "core/a.cpp": "", "core/sub/c.cpp": ""}), [])
-        self.assertEqual(self.findings("unbuilt", {"core/x/CMakeLists.txt": "y(../a.cpp)\n", "core/a.cpp": ""}), [])
-        self.assert_one("unbuilt", {**lists, "core/a.cpp": "", "core/b.cpp": ""}, "core/b.cpp:1:")
-        self.assert_one("unbuilt", {"core/CMakeLists.txt": "x(aa.cpp)\n", "core/a.cpp": ""}, "core/a.cpp:1:")
+        lists = {"CMakeLists.txt": "add_subdirectory(core)\n",
+                 "core/CMakeLists.txt": "add_subdirectory(x)\nzrv_library(x SOURCES a.cpp sub/c.cpp)\n",
+                 "core/x/CMakeLists.txt": "zrv_library(y SOURCES ../d.cpp)\n"}
+        self.assertEqual(self.findings("unbuilt", {**lists, "core/a.cpp": "", "core/sub/c.cpp": "", "core/d.cpp": ""}), [])
+        self.assert_one("unbuilt", {**lists, "core/b.cpp": ""}, "core/b.cpp:1:")
+        self.assert_one("unbuilt", {"CMakeLists.txt": "x(aa.cpp)\n", "a.cpp": ""}, "a.cpp:1:")
+
+    def test_a_list_that_no_other_leads_to_is_found(self):
+        lists = {"CMakeLists.txt": "add_subdirectory(core/x)\n# add_subdirectory(tests)\n", "core/x/CMakeLists.txt": ""}
+        self.assertEqual(self.findings("unbuilt", lists), [])
+        self.assert_one("unbuilt", {**lists, "tests/CMakeLists.txt": ""}, "tests/CMakeLists.txt:1:")
 
     def test_an_exception_holds_while_it_is_needed_and_is_found_after(self):
         allowed = {("sizes", "core/a.cpp"): "a table"}

@@ -15,6 +15,7 @@ import hashlib
 import json
 import os
 import re
+import shlex
 import subprocess
 import sys
 from pathlib import Path
@@ -50,7 +51,12 @@ def checked_sources(build, root, folders):
             yield path, entry
 
 
-def stamp_of(entry, files, configuration):
+def stamp_of(entry, included, configuration):
+    """What the verdict on a source depends on; None where ninja doesn't know its headers."""
+    arguments = shlex.split(entry["command"])
+    files = included.get(arguments[arguments.index("-o") + 1])
+    if not files:
+        return None
     whole = hashlib.sha256(configuration.encode())
     whole.update(entry["command"].encode())
     for path in sorted({entry["file"], *files}):
@@ -76,15 +82,16 @@ def main():
     def check(source):
         path, entry = source
         stamp = stamps / re.sub(r"\W", "_", path)
-        wanted = stamp_of(entry, included.get(entry.get("output"), ()), configuration)
-        if stamp.exists() and stamp.read_text() == wanted:
+        wanted = stamp_of(entry, included, configuration)
+        if wanted and stamp.exists() and stamp.read_text() == wanted:
             return path, None
         done = subprocess.run([arguments.tidy, "-p", str(build), "--quiet", f"--header-filter=^{re.escape(str(root))}/",
                                entry["file"]], capture_output=True, text=True, check=False)
         if done.returncode == 0:
-            stamp.write_text(wanted)
+            if wanted:
+                stamp.write_text(wanted)
             return path, None
-        return path, done.stdout or done.stderr
+        return path, done.stdout or done.stderr or f"clang-tidy ended with {done.returncode}"
 
     sources = list(checked_sources(build, root, arguments.folders))
     failed = 0
