@@ -2,6 +2,7 @@
 #include "core/store/recordset.h"
 
 #include "core/basic/run_time_error.h"
+#include "core/store/code_table.h"
 #include "core/store/dialect/tokens.h"
 #include "core/store/dialect/translate.h"
 #include "core/store/store_file.h"
@@ -33,6 +34,7 @@ struct Recordset::Cursor {
         , query(translated(select, *file))
         , statement(file->prepare(query.sql))
     {
+        codeTables = bindCodeTables(statement.get(), query.codeTables);
         next();
     }
 
@@ -55,6 +57,7 @@ struct Recordset::Cursor {
 
     std::shared_ptr<StoreFile> file;
     dialect::Query query;
+    CodeTables codeTables; ///< before the statement, which must not outlive them
     PreparedStatement statement;
     bool eof = false;
 };
@@ -128,7 +131,9 @@ std::string_view Recordset::utf8(int column) const
 
 int Recordset::recordCount() const
 {
+    CodeTables codeTables;
     const PreparedStatement count = m_cursor->file->prepare(m_cursor->query.countSql);
+    codeTables = bindCodeTables(count.get(), m_cursor->query.codeTables);
     return m_cursor->file->step(count) ? sqlite3_column_int(count.get(), 0) : 0;
 }
 

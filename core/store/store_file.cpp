@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store/store_file.h"
 
+#include "core/store/code_table.h"
 #include "core/store/dialect/sql_text.h"
 #include "core/store/sql_functions.h"
 #include "core/store/store_error.h"
@@ -75,6 +76,7 @@ StoreFile::StoreFile(QString path)
         sqlite3_db_config(m_database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
         sqlite3_db_config(m_database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
         addSqlFunctions(m_database);
+        addCodeFunctions(m_database);
         if (head.writesAhead)
             run(u"PRAGMA journal_mode=DELETE"_s);
     } catch (...) {
@@ -128,6 +130,13 @@ const TableShape *StoreFile::find(QStringView table)
     if (known == m_tables.end())
         known = m_tables.emplace(key, readTable(table)).first;
     return known->second ? &*known->second : nullptr;
+}
+
+bool StoreFile::hasAtMost(const QString &sql, int rows)
+{
+    const PreparedStatement statement =
+        prepare("SELECT 1 FROM ("_L1 + sql + ") LIMIT 1 OFFSET "_L1 + QString::number(rows));
+    return !step(statement);
 }
 
 std::optional<TableShape> StoreFile::readTable(QStringView name)

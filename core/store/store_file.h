@@ -38,6 +38,7 @@ public:
     int run(const QString &sql);
 
     [[nodiscard]] const TableShape *find(QStringView table) override;
+    [[nodiscard]] bool hasAtMost(const QString &sql, int rows) override;
     /// To be called when a statement has changed the shape of tables.
     void forgetTables() { m_tables.clear(); }
 

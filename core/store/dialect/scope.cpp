@@ -71,19 +71,32 @@ const ScopeTable &Scope::table(QStringView alias) const
 
 const ScopeColumn &Scope::column(const QString &table, const QString &name) const
 {
-    const ScopeColumn *found = nullptr;
+    return *columnIn(owner(table, name), name);
+}
+
+const ScopeTable &Scope::owner(const QString &table, const QString &name) const
+{
+    const ScopeTable *found = nullptr;
     for (const ScopeTable &candidate : m_tables) {
         if (!table.isEmpty() && !sameName(candidate.alias, table))
             continue;
-        const ScopeColumn *column = columnIn(candidate, name);
-        if (column && found)
+        if (!columnIn(candidate, name))
+            continue;
+        if (found)
             refuse(name);
-        if (column)
-            found = column;
+        found = &candidate;
     }
     if (!found)
         refuseColumn(table.isEmpty() ? name : QString(table + u'.' + name));
     return *found;
+}
+
+void Scope::redefine(QStringView alias, const std::vector<QString> &columns)
+{
+    const auto found = std::find_if(m_tables.begin(), m_tables.end(),
+                                    [&](const ScopeTable &table) { return sameName(table.alias, alias); });
+    for (std::size_t i = 0; i < columns.size(); ++i)
+        found->columns[i].sql.text = columns[i];
 }
 
 bool Scope::has(const QString &name) const

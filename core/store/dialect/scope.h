@@ -14,6 +14,8 @@ public:
     virtual ~Catalog() = default;
     /// By name without regard to case; null if the store has no such table.
     [[nodiscard]] virtual const TableShape *find(QStringView table) = 0;
+    /// Whether a query in SQLite's SQL gives no more rows than that.
+    [[nodiscard]] virtual bool hasAtMost(const QString &sql, int rows) = 0;
 };
 
 /// A table by name; raises store_error::MissingTable.
@@ -46,6 +48,10 @@ public:
     /// store_error::Syntax where two tables have the name.
     [[nodiscard]] const ScopeColumn &column(const QString &table, const QString &name) const;
     [[nodiscard]] bool has(const QString &name) const;
+    /// The table whose column a name means, with the same errors.
+    [[nodiscard]] const ScopeTable &owner(const QString &table, const QString &name) const;
+    /// Lets the columns of a table be read by other SQL than their names.
+    void redefine(QStringView alias, const std::vector<QString> &columns);
 
 private:
     std::vector<ScopeTable> m_tables;

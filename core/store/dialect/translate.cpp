@@ -42,11 +42,12 @@ QStringList targetColumns(const Insert &insert, const TableShape &table)
 
 } // namespace
 
-Query translate(const Select &select, Catalog &catalog)
+Query translate(const Select &select, Catalog &catalog, CodeLists codeLists)
 {
-    WrittenSelect written = writeSelect(select, catalog);
+    QStringList codeTables;
+    WrittenSelect written = writeSelect(select, catalog, codeLists == CodeLists::InMemory ? &codeTables : nullptr);
     return {written.body + written.order, "SELECT count(*) FROM ("_L1 + written.body + ")"_L1,
-            std::move(written.columns)};
+            std::move(written.columns), codeTables};
 }
 
 QString translate(const Insert &insert, Catalog &catalog)
@@ -55,7 +56,7 @@ QString translate(const Insert &insert, Catalog &catalog)
     const QStringList columns = targetColumns(insert, table);
     const QString head = "INSERT INTO "_L1 + sqlName(table.name) + " ("_L1 + columns.join(u',') + ") "_L1;
     if (insert.query) {
-        const WrittenSelect written = writeSelect(*insert.query, catalog, true);
+        const WrittenSelect written = writeSelect(*insert.query, catalog, nullptr, Columns::AsTexts);
         if (written.columns.size() != std::size_t(columns.size()))
             refuse(insert.table);
         return head + written.body + written.order;

@@ -4,6 +4,8 @@
 #include "core/store/dialect/scope.h"
 #include "core/store/dialect/statement.h"
 
+#include <QStringList>
+
 namespace zrv::dialect {
 
 /// A SELECT in SQLite's SQL.
@@ -11,9 +13,13 @@ struct Query {
     QString sql;
     QString countSql; ///< gives the number of its rows
     std::vector<ScopeColumn> columns;
+    QStringList codeTables; ///< the SQL of the tables that it looks up, by the numbers of its parameters
 };
 
-[[nodiscard]] Query translate(const Select &select, Catalog &catalog);
+/// Whether a small table that is joined by its key is looked up in memory; the rows are the same either way.
+enum class CodeLists { InMemory, Joined };
+
+[[nodiscard]] Query translate(const Select &select, Catalog &catalog, CodeLists codeLists = CodeLists::InMemory);
 
 /// An INSERT, UPDATE or DELETE in SQLite's SQL.
 [[nodiscard]] QString translate(const Insert &insert, Catalog &catalog);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store/dialect/write_select.h"
 
+#include "core/store/dialect/code_lookup.h"
 #include "core/store/dialect/tokens.h"
 #include "core/store/dialect/write_expression.h"
 
@@ -14,25 +15,32 @@ namespace {
 
 class SelectWriter {
 public:
-    SelectWriter(const Select &select, Catalog &catalog)
+    SelectWriter(const Select &select, Catalog &catalog, QStringList *codeTables)
         : m_select(select)
         , m_catalog(catalog)
+        , m_codeTables(codeTables)
     {
     }
 
-    WrittenSelect write(bool columnsAreTexts)
+    WrittenSelect write(Columns columns)
     {
         for (const Source &source : m_select.from)
             enter(source);
+        if (m_codeTables)
+            lookUpCodes();
         writeItems();
-        m_result.body = (m_select.distinct ? "SELECT DISTINCT "_L1 : "SELECT "_L1) + itemList(columnsAreTexts);
+        m_result.body = (m_select.distinct ? "SELECT DISTINCT "_L1 : "SELECT "_L1) + itemList(columns);
         QStringList from;
-        for (const Source &source : m_select.from)
-            from.append(writeSource(source));
+        for (const Source &source : m_select.from) {
+            if (!lookupOf(source))
+                from.append(writeSource(source));
+        }
         if (!from.isEmpty())
             m_result.body += " FROM "_L1 + from.join(u',');
-        if (m_select.where)
-            m_result.body += " WHERE "_L1 + condition(*m_select.where);
+        for (const Expression *part : conjuncts(m_select.where))
+            addCondition(*part);
+        if (!m_where.isEmpty())
+            m_result.body += " WHERE "_L1 + m_where.join(" AND "_L1);
         writeGroups();
         writeOrder();
         return std::move(m_result);
@@ -52,7 +60,7 @@ private:
             m_scope.add(scopeOf(tableOf(m_catalog, source.table), source.alias));
             return;
         }
-        WrittenSelect inner = writeSelect(*source.query, m_catalog);
+        WrittenSelect inner = writeSelect(*source.query, m_catalog, m_codeTables);
         ScopeTable table{source.alias, {}};
         for (const ScopeColumn &column : inner.columns)
             table.columns.push_back(
@@ -61,8 +69,44 @@ private:
         m_queries.emplace_back(&source, inner.body + inner.order);
     }
 
-    QString writeSource(const Source &source) const
+    /// Takes the tables that are looked up out of the joins; their columns become calls.
+    void lookUpCodes()
     {
+        m_lookups = findCodeLookups(m_select, m_scope, m_catalog);
+        for (const CodeLookup &lookup : m_lookups) {
+            m_codeTables->append(lookup.rowsSql);
+            const QString table = u'?' + QString::number(m_codeTables->size()) + u',';
+            const QString key = writeExpression(*lookup.key, m_scope).text + u')';
+            if (lookup.dropsRows)
+                m_where.append("zrv_has("_L1 + table + key);
+            std::vector<QString> columns;
+            for (std::size_t i = 0; i < m_scope.table(lookup.source->alias).columns.size(); ++i)
+                columns.push_back("zrv_code("_L1 + table + QString::number(i) + u',' + key);
+            m_scope.redefine(lookup.source->alias, columns);
+            m_lookedUp.insert(lookup.conditions.begin(), lookup.conditions.end());
+        }
+    }
+
+    const CodeLookup *lookupOf(const Source &source) const
+    {
+        const auto found = std::find_if(m_lookups.begin(), m_lookups.end(),
+                                        [&](const CodeLookup &lookup) { return lookup.source == &source; });
+        return found == m_lookups.end() ? nullptr : &*found;
+    }
+
+    void addCondition(const Expression &part)
+    {
+        if (m_lookedUp.count(&part) == 0)
+            m_where.append(condition(part));
+    }
+
+    QString writeSource(const Source &source)
+    {
+        if (!source.join.isEmpty() && lookupOf(source.sides[1])) {
+            for (const Expression *part : conjuncts(source.on))
+                addCondition(*part);
+            return writeSource(source.sides[0]);
+        }
         if (!source.join.isEmpty()) {
             // Joins nest to the left, where brackets change nothing; on the right they do.
             const bool nested = !source.sides[1].join.isEmpty();
@@ -112,11 +156,11 @@ private:
         return "Expr"_L1 + QString::number(FirstNumber + m_result.columns.size());
     }
 
-    QString itemList(bool columnsAreTexts) const
+    QString itemList(Columns columns) const
     {
         QStringList list;
         for (const ScopeColumn &column : m_result.columns) {
-            QString item = columnsAreTexts ? asText(column.sql) : asValue(column.sql);
+            QString item = columns == Columns::AsTexts ? asText(column.sql) : asValue(column.sql);
             if (m_select.distinct && column.sql.kind == Kind::Text)
                 item += " COLLATE NOCASE"_L1;
             list.append(item + " AS "_L1 + sqlName(column.name));
@@ -188,14 +232,18 @@ private:
     Scope m_scope;
     ResultNames m_names;
     std::vector<std::pair<const Source *, QString>> m_queries;
+    QStringList *m_codeTables;
+    std::vector<CodeLookup> m_lookups;
+    std::set<const Expression *> m_lookedUp; ///< conditions that look-ups stand for
+    QStringList m_where;
     WrittenSelect m_result;
 };
 
 } // namespace
 
-WrittenSelect writeSelect(const Select &select, Catalog &catalog, bool columnsAreTexts)
+WrittenSelect writeSelect(const Select &select, Catalog &catalog, QStringList *codeTables, Columns columns)
 {
-    return SelectWriter(select, catalog).write(columnsAreTexts);
+    return SelectWriter(select, catalog, codeTables).write(columns);
 }
 
 } // namespace zrv::dialect

@@ -4,6 +4,8 @@
 #include "core/store/dialect/scope.h"
 #include "core/store/dialect/statement.h"
 
+#include <QStringList>
+
 namespace zrv::dialect {
 
 /// A SELECT in two parts, since a count has no use for the order.
@@ -13,8 +15,13 @@ struct WrittenSelect {
     std::vector<ScopeColumn> columns;
 };
 
+/// A query that fills a table must give texts.
+enum class Columns { AsTheyAre, AsTexts };
+
 /// Puts a SELECT into SQLite's SQL. A query that states no order gives its rows in the order in which the rows of
-/// its first table were entered. With `columnsAreTexts` every result is made a text, as the store's columns need.
-[[nodiscard]] WrittenSelect writeSelect(const Select &select, Catalog &catalog, bool columnsAreTexts = false);
+/// its first table were entered. Given `codeTables`, it looks up code lists in memory (dialect/code_lookup.h) and adds
+/// the SQL of their rows there; the statement's parameters stand for them by number.
+[[nodiscard]] WrittenSelect writeSelect(const Select &select, Catalog &catalog, QStringList *codeTables,
+                                        Columns columns = Columns::AsTheyAre);
 
 } // namespace zrv::dialect
