@@ -9,7 +9,6 @@
 #include "core/store/store_failure.h"
 #include "core/store/table_sql.h"
 
-#include <QCoreApplication>
 #include <QFile>
 
 #include <map>
@@ -25,7 +24,7 @@ public:
         : m_path(path)
         , m_tables(std::move(tables))
     {
-        m_temporary = path + u".new"_s + QString::number(QCoreApplication::applicationPid());
+        m_temporary = temporaryName(path);
         if (QFile::exists(path))
             throw RunTimeError(store_error::General,
                                u"فايل بانک اطلاعاتي قبلا ايجاد شده است و جايگزين نميگردد : "_s + path);

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/zrvstore/backup.h"
 #include "tools/zrvstore/command_line.h"
 #include "tools/zrvstore/create.h"
 #include "tools/zrvstore/failure.h"
+#include "tools/zrvstore/store_folder.h"
+#include "tools/zrvstore/verify.h"
 
 #include <QFile>
 
@@ -15,6 +18,17 @@ void print(std::FILE *stream, const QString &text)
 {
     const QByteArray utf8 = text.toUtf8();
     std::fwrite(utf8.constData(), 1, std::size_t(utf8.size()), stream);
+}
+
+/// 0 for a sound store, 1 if there is anything to say about it.
+int verify(const Request &request)
+{
+    const QString path = storeIn(request.folder);
+    const auto sink = [](const QString &line) { print(stdout, QString(line + u'\n')); };
+    const qint64 findings = verifyStore(path, sink, request.all ? 0 : MostOfAKind);
+    print(stdout, findings == 0 ? QString(path + u" is sound\n")
+                                : QString(path + u" has findings: " + QString::number(findings) + u'\n'));
+    return findings == 0 ? 0 : 1;
 }
 
 int run(const Request &request)
@@ -33,8 +47,10 @@ int run(const Request &request)
         createSample(request.folder, request.plan);
         return 0;
     case Command::Verify:
+        return verify(request);
     case Command::Backup:
-        throw Failure(QStringLiteral("this command is not built yet"));
+        backup(storeIn(request.folder), request.file, request.force);
+        return 0;
     }
     return 2;
 }
