@@ -32,6 +32,7 @@ public:
 
 private:
     friend class Recordset;
+    friend class RowWindow;
     std::shared_ptr<StoreFile> m_file;
 };
 

@@ -46,8 +46,19 @@ Query translate(const Select &select, Catalog &catalog, CodeLists codeLists)
 {
     QStringList codeTables;
     WrittenSelect written = writeSelect(select, catalog, codeLists == CodeLists::InMemory ? &codeTables : nullptr);
-    return {written.body + written.order, "SELECT count(*) FROM ("_L1 + written.body + ")"_L1,
-            std::move(written.columns), codeTables};
+    Query query{written.body + written.order,
+                "SELECT count(*) FROM ("_L1 + written.body + ")"_L1,
+                std::move(written.columns),
+                codeTables,
+                {},
+                {}};
+    if (!written.rowId.isEmpty() && codeLists == CodeLists::Joined) {
+        const QString results = written.body.chopped(written.from.size());
+        query.idSql = "SELECT "_L1 + written.rowId + written.from + written.order;
+        query.rowsOfIdsSql = results + u',' + written.rowId + written.from + (select.where ? " AND "_L1 : " WHERE "_L1)
+                             + written.rowId + " IN "_L1;
+    }
+    return query;
 }
 
 QString translate(const Insert &insert, Catalog &catalog)

@@ -14,6 +14,11 @@ struct Query {
     QString countSql; ///< gives the number of its rows
     std::vector<ScopeColumn> columns;
     QStringList codeTables; ///< the SQL of the tables that it looks up, by the numbers of its parameters
+
+    /// Where each result comes from one row of the first table: the ids of these rows, one a result, and the results
+    /// of the ids whose list is put behind it, each with its id as a further column at the end. Only of a translation that joins all tables.
+    QString idSql;
+    QString rowsOfIdsSql;
 };
 
 /// Whether a small table that is joined by its key is looked up in memory; the rows are the same either way.

@@ -29,18 +29,19 @@ public:
         if (m_codeTables)
             lookUpCodes();
         writeItems();
-        m_result.body = (m_select.distinct ? "SELECT DISTINCT "_L1 : "SELECT "_L1) + itemList(columns);
         QStringList from;
         for (const Source &source : m_select.from) {
             if (!lookupOf(source))
                 from.append(writeSource(source));
         }
         if (!from.isEmpty())
-            m_result.body += " FROM "_L1 + from.join(u',');
+            m_result.from = " FROM "_L1 + from.join(u',');
         for (const Expression *part : conjuncts(m_select.where))
             addCondition(*part);
         if (!m_where.isEmpty())
-            m_result.body += " WHERE "_L1 + m_where.join(" AND "_L1);
+            m_result.from += " WHERE "_L1 + m_where.join(" AND "_L1);
+        m_result.body = (m_select.distinct ? "SELECT DISTINCT "_L1 : "SELECT "_L1) + itemList(columns) + m_result.from;
+        m_result.rowId = orderOfEntry();
         writeGroups();
         writeOrder();
         return std::move(m_result);
@@ -207,9 +208,8 @@ private:
             const QString term = sql.kind == Kind::Text ? QString("zrv_order("_L1 + sql.text + ")"_L1) : asValue(sql);
             order.append(item.descending ? QString(term + " DESC"_L1) : term);
         }
-        const QString entered = orderOfEntry();
-        if (!entered.isEmpty())
-            order.append(entered);
+        if (!m_result.rowId.isEmpty())
+            order.append(m_result.rowId);
         if (!order.isEmpty())
             m_result.order = " ORDER BY "_L1 + order.join(u',');
     }

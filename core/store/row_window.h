@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "core/store/connection.h"
+
+#include <QStringList>
+
+#include <list>
+#include <vector>
+
+namespace zrv {
+
+/// The rows of one SELECT by their number, for a grid of any length: only the order of the rows is kept, and the
+/// rows themselves are read, a page at a time, when one of their cells is asked for. A row that was deleted
+/// meanwhile gives empty cells. A query whose results combine rows (DISTINCT, GROUP BY, sums) is held whole.
+class RowWindow {
+public:
+    /// Runs the query once. Raises the store's errors.
+    RowWindow(QString connectionString, QString select);
+
+    [[nodiscard]] int rowCount() const { return static_cast<int>(m_ids.empty() ? m_rows.size() : m_ids.size()); }
+    /// Row and column from 0. NULL gives the empty text.
+    [[nodiscard]] QString cell(int row, int column) const;
+
+private:
+    static constexpr int PageRows = 256;
+    static constexpr int PagesKept = 8;
+
+    struct Page {
+        int number;
+        std::vector<QStringList> rows;
+    };
+
+    [[nodiscard]] const Page &page(int number) const;
+    [[nodiscard]] Page readPage(int number) const;
+
+    QString m_connectionString;
+    QString m_rowsOfIdsSql;
+    int m_columns = 0;
+    std::vector<qint64> m_ids;
+    std::vector<QStringList> m_rows; ///< a query that is held whole
+    mutable std::list<Page> m_pages; ///< the latest used first
+};
+
+} // namespace zrv
