@@ -97,13 +97,21 @@ void BrowsePanel::showRows(const QString &statement)
     LabelGridCount.setCaption(QString::number(grid.rowCount()));
 }
 
-void BrowsePanel::fill()
+/// Runs a routine of the grid; what it lets go is told in the plain box, or left to the screen's error box.
+void BrowsePanel::reporting(const std::function<void()> &routine)
 {
     try {
-        showRows(m_query.all() + m_query.order);
+        routine();
     } catch (const RunTimeError &failure) {
+        if (m_query.report == FailureReport::ErrorBox)
+            throw;
         ShowInlineError(m_screen.program().platform, failure);
     }
+}
+
+void BrowsePanel::fill()
+{
+    reporting([this] { showRows(m_query.all() + m_query.order); });
 }
 
 bool BrowsePanel::show(const QString &statement)
@@ -121,7 +129,10 @@ QString BrowsePanel::expressionOf(int column) const
 void BrowsePanel::headClicked(int column)
 {
     if (OptSort.isChecked()) {
-        showRows(m_query.all() + u" ORDER BY "_s + expressionOf(column) + (m_sortAscending ? u" ASC"_s : u" DESC"_s));
+        reporting([&] {
+            showRows(m_query.all() + u" ORDER BY "_s + expressionOf(column)
+                     + (m_sortAscending ? u" ASC"_s : u" DESC"_s));
+        });
     } else if (OptSearch.isChecked()) {
         m_searchColumn = column;
         lblSearch.setCaption(m_columns[static_cast<size_t>(column)].caption + u":"_s);
@@ -151,13 +162,13 @@ bool BrowsePanel::searchKeyDown(Key key)
     return true;
 }
 
-QString BrowsePanel::wordCondition(const QString &field, const QStringList &words) const
+QString BrowsePanel::wordCondition(const QString &field, const QStringList &words, bool alike) const
 {
     QString condition;
     for (const QString &word : words) {
         if (!condition.isEmpty())
             condition += chkAnd.isChecked() ? u" And "_s : u" OR "_s;
-        condition += field + u" LIKE "_s + quoted(m_searchSimilar ? QString(u'%' + word + u'%') : word);
+        condition += field + u" LIKE "_s + quoted(alike ? QString(u'%' + word + u'%') : word);
     }
     return condition;
 }
@@ -170,7 +181,7 @@ bool BrowsePanel::search()
     for (const QString &word : words)
         lstWord_Seperator.addItem({word, {}});
     if (!words.isEmpty())
-        return show(m_query.search(wordCondition(expressionOf(m_searchColumn), words)));
+        return show(m_query.search(wordCondition(expressionOf(m_searchColumn), words, m_searchSimilar)));
     fill();
     return true;
 }
@@ -178,25 +189,29 @@ bool BrowsePanel::search()
 void BrowsePanel::cmdSearch_Click()
 {
     ArrangeSearchBar(true, m_screen);
-    if (!search())
-        m_screen.program().platform.messageBox(box::Notice, u"  توجه"_s, u".چنين رکوردي وجود ندارد"_s);
+    reporting([this] {
+        if (!search())
+            m_screen.program().platform.messageBox(box::Notice, u"  توجه"_s, u".چنين رکوردي وجود ندارد"_s);
+    });
 }
 
 void BrowsePanel::setAutoSearch(bool on)
 {
-    txtSearch.onChange = on ? [this] { (void)search(); } : std::function<void()>();
+    txtSearch.onChange = on ? [this] { reporting([this] { (void)search(); }); } : std::function<void()>();
 }
 
 void BrowsePanel::cmdCancel_Search_Click()
 {
     ArrangeSearchBar(false, m_screen);
     PicOperation.setEnabled(true);
+    // The bar that had the focus is gone; the rows are what the user looks at next.
+    grid.setFocus();
     fill();
 }
 
 void ArrangeSearchBar(bool shown, Form &form)
 {
-    for (const auto name : {u"lblSearch", u"txtSearch", u"cmdSearch", u"cmdCancel_Search", u"chkAnd"})
+    for (const auto name : {u"lblSearch", u"txtSearch", u"cmdSearch", u"cmdCancel_Search"})
         if (Control *const control = form.find(name))
             control->setVisible(shown);
     if (!shown)

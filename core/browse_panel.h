@@ -14,11 +14,15 @@ struct BrowseColumn {
     QString expression = {};  ///< what the field is in a condition; empty when it is the field itself
 };
 
+/// Where a failure of the grid's statements is told: in the plain box of most grids, or in the error box.
+enum class FailureReport { PlainBox, ErrorBox };
+
 /// What a screen tells its browse panel.
 struct BrowseQuery {
     std::function<QString()> all;                            ///< the statement of all rows, without its order
     QString order = {};                                      ///< the usual order; empty for the order of entry
     std::function<QString(const QString &condition)> search; ///< the whole statement of a search
+    FailureReport report = FailureReport::PlainBox;
 };
 
 /// The grid of a record screen with everything that acts on it: the three options with their two captions each,
@@ -53,12 +57,12 @@ public:
 
     /// Start of a screen: search bar hidden, ascending, alike.
     void reset();
-    /// All rows in the usual order. Failures are reported in the plain box of the grids.
+    /// All rows in the usual order. Failures are told as the screen wants them.
     void fill();
     /// Shows the rows of any statement with the panel's columns; false when there are none.
     bool show(const QString &statement);
     /// The condition of a search for these words in a field: each word alike or equal, joined by And or Or.
-    [[nodiscard]] QString wordCondition(const QString &field, const QStringList &words) const;
+    [[nodiscard]] QString wordCondition(const QString &field, const QStringList &words, bool alike) const;
 
     /// Searches as the sought text changes, without a word when nothing is found.
     void setAutoSearch(bool on);
@@ -73,6 +77,7 @@ public:
 
 private:
     void showRows(const QString &statement);
+    void reporting(const std::function<void()> &routine);
     void headClicked(int column);
     bool gridKey(Key key);
     bool searchKeyDown(Key key);
@@ -88,8 +93,8 @@ private:
     bool m_searchSimilar = true;
 };
 
-/// Shows or hides the search controls of a form: lblSearch, txtSearch, cmdSearch, cmdCancel_Search, chkAnd. Shown,
-/// OptSort and OptNormal can be used.
+/// Shows or hides the search controls of a form: lblSearch, txtSearch, cmdSearch, cmdCancel_Search. Shown, OptSort and
+/// OptNormal can be used.
 void ArrangeSearchBar(bool shown, Form &form);
 
 /// The words of a text, split at its blanks, without empty ones.

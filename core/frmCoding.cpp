@@ -57,7 +57,8 @@ frmCoding::frmCoding(Program &program, QString list, QString listName)
                                          + quoted(m_list) + u")"_s);
                       },
                   .order = u" ORDER BY val(SCode)"_s,
-                  .search = [this](const QString &condition) { return searchStatement(condition); }},
+                  .search = [this](const QString &condition) { return searchStatement(condition); },
+                  .report = FailureReport::ErrorBox},
                  {{u"SCode"_s, years ? u" سال "_s : u"  كـد "_s, {}, true},
                   {u"SDesc"_s, years ? u" مبلغ معافيت ساليانه(ريال) "_s : u" شرح کـــــد "_s,
                    years ? u"#,##0"_s : QString(), years}});
@@ -68,6 +69,8 @@ frmCoding::frmCoding(Program &program, QString list, QString listName)
         cmdKeyOk_Click();
     };
     browse.onDelete = [this] {
+        if (!txtSCode.isReachable())
+            return;
         browse.onPick();
         if (cmdDelete.isEnabled())
             cmdDelete_Click();
@@ -85,11 +88,13 @@ frmCoding::frmCoding(Program &program, QString list, QString listName)
         return true;
     };
     cmdKeyOk.onClick = [this] { cmdKeyOk_Click(); };
-    cmdKeyReturn.onClick = [this] { cmdKeyReturn_Click(); };
+    cmdKeyReturn.onClick = [this] { leaveKeyStage(cmdContinue); };
     cmdDataOk.onClick = [this] { cmdDataOk_Click(); };
     cmdDataReturn.onClick = [this] { backToKey(); };
-    cmdContinue.onGotFocus = [this] { DisableContainer(u"framBrows", *this); };
-    cmdContinue.onClick = [this] { cmdContinue_Click(); };
+    cmdContinue.onClick = [this] {
+        takeUpKeyStage(cmdContinue, txtSCode);
+        txtSCode_Change();
+    };
     cmdDelete.onClick = [this] { cmdDelete_Click(); };
     cmdExit.onClick = [this] { unload(); };
 }
@@ -104,8 +109,8 @@ void frmCoding::Form_Load()
     openKeyStage(false);
     ApplyModeButtons(u"StartProgram", *this);
     browse.reset();
-    browse.fill();
     txtSCode_Change();
+    browse.fill();
 }
 
 void frmCoding::txtSCode_Change()
@@ -156,6 +161,7 @@ void frmCoding::cmdDataOk_Click()
         return;
     else
         AddRoutine();
+    m_lastCode = txtSCode.text().trimmed();
     backToKey();
 }
 
@@ -166,22 +172,6 @@ void frmCoding::backToKey()
     txtSCode_Change();
     txtSCode.setFocus();
     browse.fill();
-}
-
-void frmCoding::cmdKeyReturn_Click()
-{
-    ClearContainer(u"framKey", *this);
-    DisableContainer(u"framKey", *this);
-    ApplyModeButtons(u"picButtons", *this);
-    cmdContinue.setFocus();
-}
-
-void frmCoding::cmdContinue_Click()
-{
-    EnableContainer(u"framKey", *this);
-    EnableContainer(u"framBrows", *this);
-    txtSCode_Change();
-    txtSCode.setFocus();
 }
 
 void frmCoding::AddRoutine()
@@ -219,7 +209,7 @@ bool frmCoding::RecordIsDuplicate()
     if (!RecordExists(m_program, u"SELECT * FROM ZRVtbCoding"_s + u" WHERE MCode = "_s + quoted(m_list) + u" AND "_s
                                      + u"Sdesc = "_s + quoted(description)))
         return false;
-    browse.show(searchStatement(browse.wordCondition(u"SDesc"_s, searchWords(description))));
+    browse.show(searchStatement(browse.wordCondition(u"SDesc"_s, searchWords(description), true)));
     messageBox(box::Refusal, Refused,
                u" عبارت ( "_s + description
                    + u" ) قبلا تعريف شده است.لطفا از تعريف مجدد عبارتهاي تکراري اکيدا خودداري نماييد"_s + u"\r\n"_s

@@ -33,7 +33,7 @@ public:
     Button cmdDataReturn{framData, u"cmdDataReturn"_s, {.caption = u"&انصراف"_s}};
 
     Frame picButtons{framAll, u"picButtons"_s};
-    Button cmdContinue{picButtons, u"cmdContinue"_s, {.caption = u"&ادامه"_s}};
+    Button cmdContinue{picButtons, u"cmdContinue"_s, {.caption = u"&ادامه"_s, .enabled = false}};
     Button cmdDelete{picButtons, u"cmdDelete"_s, {.caption = u" &حذف"_s}};
     Button cmdExit{picButtons, u"cmdExit"_s, {.caption = u"&خروج"_s}};
 
@@ -47,14 +47,14 @@ public:
     void AddRoutine();
     void cmdKeyOk_Click();
     void cmdDataOk_Click();
+    /// The code saved last; empty before the first save.
+    [[nodiscard]] const QString &lastCode() const { return m_lastCode; }
 
 protected:
     void Form_Load() override;
 
 private:
     void txtSCode_Change();
-    void cmdKeyReturn_Click();
-    void cmdContinue_Click();
     void cmdDelete_Click();
     void UpdateRoutine();
     void DeleteRoutine();
@@ -65,6 +65,7 @@ private:
 
     QString m_list;
     QString m_listName;
+    QString m_lastCode;
     bool m_recordExists = false;
 };
 

@@ -78,6 +78,24 @@ void RecordScreen::openKeyStage(bool clearKey)
     EnableContainer(m_keyContainer, *this);
 }
 
+void RecordScreen::leaveKeyStage(Button &cmdContinue)
+{
+    ClearContainer(m_keyContainer, *this);
+    DisableContainer(m_keyContainer, *this);
+    ApplyModeButtons(u"picButtons", *this);
+    DisableContainer(u"framBrows", *this);
+    cmdContinue.setEnabled(true);
+    cmdContinue.setFocus();
+}
+
+void RecordScreen::takeUpKeyStage(Button &cmdContinue, Control &keyField)
+{
+    EnableContainer(m_keyContainer, *this);
+    EnableContainer(u"framBrows", *this);
+    keyField.setFocus();
+    cmdContinue.setEnabled(false);
+}
+
 bool RecordScreen::confirmDelete()
 {
     return messageBox(box::AskYesNo, u"                       حذف "_s, u"  آيا  مطمئن  هستيد ؟"_s) == Answer::Yes;

@@ -28,8 +28,15 @@ protected:
     /// The question before a record is deleted.
     bool confirmDelete();
 
-    /// Runs, of cmdCancel_Search, cmdDataReturn and cmdKeyReturn, the first whose panel is open.
-    bool goBack();
+    /// Key fields emptied and closed, and the browse panel closed with them; the focus waits on cmdContinue, which can
+    /// be used only now: pressed in another stage it would open the key of the record in hand.
+    void leaveKeyStage(Button &cmdContinue);
+    /// cmdContinue: both open again.
+    void takeUpKeyStage(Button &cmdContinue, Control &keyField);
+
+    /// Escape. Runs, of cmdCancel_Search, cmdDataReturn and cmdKeyReturn, the first whose panel is open; false when
+    /// none is.
+    virtual bool goBack();
 
 private:
     QString m_keyContainer;
