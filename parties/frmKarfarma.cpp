@@ -87,7 +87,8 @@ frmKarfarma::frmKarfarma(Program &program)
     browse.onPick = [this] { pickRow(); };
     browse.onDelete = [this] {
         pickRow();
-        if (cmdDelete.isEnabled())
+        // In the Data stage the row may not be the payer in hand.
+        if (rowIsInHand() && cmdDelete.isEnabled())
             cmdDelete_Click();
         browse.grid.setFocus();
     };
@@ -110,10 +111,14 @@ void frmKarfarma::wireFields()
     for (TextBox *field : {&txtTFN, &txtCodeShobe, &txtTin, &txtPostCode, &txtCodeHozeh})
         field->onLostFocus = [field] { normalizeNumber(*field); };
     for (DataCombo *list : {&dcbMMoadiType, &dcbSMoadiType, &dcbMohasebeType})
-        list->onKeyDown = [list](Key key) {
+        list->onKeyDown = [this, list](Key key) {
             if (key == Key::Delete)
                 list->setText({});
-            return key == Key::Delete;
+            else if (key == Key::Escape)
+                backToKey();
+            else
+                return false;
+            return true;
         };
     dcbMMoadiType.onChange = [this] { dcbMMoadiType_Change(); };
 }
@@ -131,6 +136,14 @@ void frmKarfarma::Form_Load()
     // A store has one payer: the screen opens on it.
     if (m_rowCount > 0)
         pickRow();
+}
+
+bool frmKarfarma::goBack()
+{
+    if (!frmHelp.isVisible())
+        return RecordScreen::goBack();
+    cmdExitHelp_Click();
+    return true;
 }
 
 void frmKarfarma::FormatGrid()
@@ -232,6 +245,12 @@ void frmKarfarma::pickRow()
     txtTFN.setText(browse.grid.currentCell(u"TFN"));
     txtCodeShobe.setText(browse.grid.currentCell(u"CodeShobe"));
     cmdKeyOk_Click();
+}
+
+bool frmKarfarma::rowIsInHand() const
+{
+    return browse.grid.currentRow() >= 0 && browse.grid.currentCell(u"TFN") == txtTFN.text()
+           && browse.grid.currentCell(u"CodeShobe") == txtCodeShobe.text();
 }
 
 bool frmKarfarma::keyIsValid()
@@ -339,16 +358,12 @@ void frmKarfarma::cmdDataOk_Click()
             messageBox(box::Refusal, Refused, u"  تعريف بيش از يک پرداخت کننده حقوق مجاز نميباشد "_s);
             return;
         }
-        if (m_recordExists) {
-            UpdateRoutine();
-        } else {
-            AddRoutine();
-            // An insert that failed and was told flips the screen into edit mode all the same.
-            m_recordExists = true;
-        }
+        const bool saved = m_recordExists ? UpdateRoutine() : AddRoutine();
+        // An insert that failed and was told flips the screen into edit mode all the same.
+        m_recordExists = true;
         FillGrid();
         cmdDelete.setEnabled(true);
-        if (m_program.showPayer)
+        if (saved && m_program.showPayer)
             m_program.showPayer(txtName.text() + u" "_s + txtFamily.text() + u" - شعبه "_s + txtShobeName.text()
                                 + u" "_s);
     } catch (const RunTimeError &failure) {
@@ -377,7 +392,8 @@ QString frmKarfarma::keyCondition() const
     return u" WHERE TFN = "_s + quoted(txtTFN.text()) + u" AND CodeShobe = "_s + quoted(txtCodeShobe.text());
 }
 
-void frmKarfarma::AddRoutine()
+/// False when the store refused the row; the user knows by then.
+bool frmKarfarma::AddRoutine()
 {
     QString values = quoted(numberText(Val(txtTFN.text()))) + u","_s + quoted(numberText(Val(txtCodeShobe.text())));
     try {
@@ -394,12 +410,14 @@ void frmKarfarma::AddRoutine()
             messageBox(box::Refusal, u" تــوجه  "_s, karfarma_texts::BranchColumnTooShort);
         else
             messageBox(box::Warning, u"Add"_s, failure.description());
-        return;
+        return false;
     }
     messageBox(box::Notice, u" توجه "_s, u" اطلاعات پرداخت کننده حقوق ذخيره گرديد "_s);
+    return true;
 }
 
-void frmKarfarma::UpdateRoutine()
+/// Likewise.
+bool frmKarfarma::UpdateRoutine()
 {
     QString changes;
     try {
@@ -408,9 +426,10 @@ void frmKarfarma::UpdateRoutine()
         Connection(m_program.StoreConnectionString).execute(u"UPDATE ZRVtbKarfarma Set"_s + changes + keyCondition());
     } catch (const RunTimeError &failure) {
         messageBox(box::Warning, u"Update"_s, failure.description());
-        return;
+        return false;
     }
     messageBox(box::Notice, u" توجه "_s, u"  بروزرساني اطلاعات پرداخت کننده حقوق انجام گرديد "_s);
+    return true;
 }
 
 // Deleting ---------------------------------------------------------------------------------------------------

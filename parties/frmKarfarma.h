@@ -90,6 +90,7 @@ public:
 
 protected:
     void Form_Load() override;
+    bool goBack() override;
 
 private:
     static const QString SignatoryTip;
@@ -109,12 +110,13 @@ private:
     void cmdExitHelp_Click();
     void requireSecondSignatory();
     [[nodiscard]] bool keyIsValid();
+    [[nodiscard]] bool rowIsInHand() const;
     [[nodiscard]] bool numbersAreValid();
     [[nodiscard]] bool tinIsValid();
     [[nodiscard]] bool refuse(const QString &text, Control &field, int style = box::Refusal);
     [[nodiscard]] bool deletionIsRefused();
-    void AddRoutine();
-    void UpdateRoutine();
+    bool AddRoutine();
+    bool UpdateRoutine();
     void DeleteRoutine();
     [[nodiscard]] Edit &fieldOf(QStringView column) const;
     [[nodiscard]] QString valueOf(QStringView column) const;
