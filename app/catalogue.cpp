@@ -7,6 +7,7 @@
 #include "core/frmEncodeDecode.h"
 #include "core/frmEnterance_Door.h"
 #include "core/frmMain.h"
+#include "core/frmUser_Defination.h"
 #include "files/frmCreatTextFiles.h"
 #include "parties/frmKarfarma.h"
 
@@ -31,6 +32,7 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmAbout"_s, makeScreen<frmAbout>);
     catalogue.add(u"frmEncodeDecode"_s, makeScreen<frmEncodeDecode>);
     catalogue.add(u"frmCodingCalls"_s, makeScreen<frmCodingCalls>);
+    catalogue.add(u"frmUser_Defination"_s, makeScreen<frmUser_Defination>);
     catalogue.add(u"frmKarfarma"_s, makeScreen<frmKarfarma>);
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
 }
