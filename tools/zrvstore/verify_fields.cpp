@@ -101,12 +101,14 @@ void FieldCheck::check(const TableReader &row, Findings &findings) const
 
 void FieldCheck::checkValue(const TableReader &row, const Field &field, Findings &findings) const
 {
+    // Reading a value as text would make a text of it.
+    const bool isText = row.isText(field.place);
     const std::string_view value = row.value(field.place);
     const auto report = [&](QStringView kind, const QString &what) {
         findings.add(kind, row.where(row.shape().columns[field.place].name.toStdString()), what);
     };
     const auto quoted = [&] { return field.rule && field.rule->column == "Passwordd" ? u"it"_s : shown(value); };
-    if (!row.isText(field.place))
+    if (!isText)
         report(finding::Form, u"is no text"_s);
     if (std::ptrdiff_t(value.size()) > field.width && lengthOf(value) > field.width)
         report(finding::TooLong, u"is "_s + QString::number(lengthOf(value)) + u" characters long, at most "_s

@@ -47,7 +47,7 @@ constexpr ColumnName Optional[] = {
 constexpr ColumnName Widened[] = {{u"ZRVtbKarfarma", u"CodeShobe"}, {u"ZRVtbKholList", u"ChequeSeriNo"}};
 // clang-format on
 
-/// What the screens let into an amount, and the width that the upgrade gave those columns.
+/// The upgrade gave the amounts of the salary list this width, which is all that the screens let in.
 constexpr int UpgradedAmount = 10;
 
 template <std::size_t Size>
@@ -115,7 +115,7 @@ void checkWidth(const TableShape &table, const ColumnShape &wanted, int width, F
         findings.add(finding::ColumnWidth, where, u"has no width"_s);
     else if (contains(Widened, table.name, wanted.name))
         findings.add(finding::ColumnWidth, where, widths + u": an older store, the program's repair widens it"_s);
-    else if (contains(Added, table.name, wanted.name) && width >= UpgradedAmount)
+    else if (table.name == u"ZRVtbHogog" && contains(Added, table.name, wanted.name) && width >= UpgradedAmount)
         findings.note(finding::ColumnWidth, where, widths + u", as an upgrade leaves it"_s);
     else
         findings.add(finding::ColumnWidth, where, widths);
