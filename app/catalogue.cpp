@@ -10,6 +10,8 @@
 #include "core/frmUser_Defination.h"
 #include "files/frmCreatTextFiles.h"
 #include "parties/frmKarfarma.h"
+#include "parties/frmKarkonan.h"
+#include "parties/frmSrcKarkonan.h"
 
 namespace zrv {
 
@@ -34,6 +36,8 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmCodingCalls"_s, makeScreen<frmCodingCalls>);
     catalogue.add(u"frmUser_Defination"_s, makeScreen<frmUser_Defination>);
     catalogue.add(u"frmKarfarma"_s, makeScreen<frmKarfarma>);
+    catalogue.add(u"frmKarkonan"_s, makeScreen<frmKarkonan>);
+    catalogue.add(u"frmSrcKarkonan"_s, makeScreen<frmSrcKarkonan>);
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
 }
 

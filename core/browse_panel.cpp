@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/browse_panel.h"
 
+#include "core/basic/number_format.h"
 #include "core/mdlError.h"
 #include "core/store/connection.h"
 #include "core/store_rows.h"
@@ -47,7 +48,7 @@ BrowsePanel::BrowsePanel(Screen &screen, Container &framBrows, const QString &gr
     , LabelGridCountCaption(framBrows, u"LabelGridCountCaption"_s, {.caption = u"تعداد سطرهاي جدول :"_s})
     , LabelGridCount(framBrows, u"LabelGridCount"_s, {.leftToRight = true})
 {
-    OptNormal.onClick = [this] { fill(); };
+    OptNormal.onClick = [this] { fillAsStored(); };
     OptSort.onDblClick = [this] {
         m_sortAscending = !m_sortAscending;
         OptSort.setCaption(m_sortAscending ? SortUp : SortDown);
@@ -94,7 +95,7 @@ void BrowsePanel::reset()
 void BrowsePanel::showRows(const QString &statement)
 {
     grid.setRows(openRows(m_screen.program(), statement));
-    LabelGridCount.setCaption(QString::number(grid.rowCount()));
+    LabelGridCount.setCaption(Format(grid.rowCount(), m_query.countFormat));
 }
 
 /// Runs a routine of the grid; what it lets go is told in the plain box, or left to the screen's error box.
@@ -112,6 +113,11 @@ void BrowsePanel::reporting(const std::function<void()> &routine)
 void BrowsePanel::fill()
 {
     reporting([this] { showRows(m_query.all() + m_query.order); });
+}
+
+void BrowsePanel::fillAsStored()
+{
+    reporting([this] { showRows(m_query.all()); });
 }
 
 bool BrowsePanel::show(const QString &statement)

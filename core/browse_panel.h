@@ -5,6 +5,8 @@
 
 namespace zrv {
 
+using namespace Qt::Literals::StringLiterals;
+
 /// A column of a browse grid: as it is shown, and the store's name for it in conditions and orders.
 struct BrowseColumn {
     QString field; ///< name in the result
@@ -20,9 +22,10 @@ enum class FailureReport { PlainBox, ErrorBox };
 /// What a screen tells its browse panel.
 struct BrowseQuery {
     std::function<QString()> all;                            ///< the statement of all rows, without its order
-    QString order = {};                                      ///< the usual order; empty for the order of entry
+    QString order = {};                                      ///< the grid's usual order
     std::function<QString(const QString &condition)> search; ///< the whole statement of a search
     FailureReport report = FailureReport::PlainBox;
+    QString countFormat = u"0"_s; ///< picture of the number of rows
 };
 
 /// The grid of a record screen with everything that acts on it: the three options with their two captions each,
@@ -59,6 +62,8 @@ public:
     void reset();
     /// All rows in the usual order. Failures are told as the screen wants them.
     void fill();
+    /// All rows in the order in which they were entered, as OptNormal shows them.
+    void fillAsStored();
     /// Shows the rows of any statement with the panel's columns; false when there are none.
     bool show(const QString &statement);
     /// The condition of a search for these words in a field: each word alike or equal, joined by And or Or.

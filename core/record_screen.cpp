@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/record_screen.h"
 
+#include "core/basic/run_time_error.h"
 #include "core/containers.h"
 #include "core/mdlPublic.h"
+#include "core/store/connection.h"
 
 namespace zrv {
 
@@ -94,6 +96,30 @@ void RecordScreen::takeUpKeyStage(Button &cmdContinue, Control &keyField)
     EnableContainer(u"framBrows", *this);
     keyField.setFocus();
     cmdContinue.setEnabled(false);
+}
+
+Edit &RecordScreen::fieldOf(QStringView column) const
+{
+    for (const QString &name : {QString(u"txt" + column), QString(u"dcb" + column)})
+        if (auto *const field = dynamic_cast<Edit *>(find(name)))
+            return *field;
+    throw RunTimeError(error::SubscriptOutOfRange, column.toString());
+}
+
+QString RecordScreen::valueOf(QStringView column) const
+{
+    const Edit &field = fieldOf(column);
+    const auto *const list = dynamic_cast<const Combo *>(&field);
+    return quoted((list ? list->boundText() : field.text()).trimmed());
+}
+
+void RecordScreen::showValue(QStringView column, const QString &stored)
+{
+    Edit &field = fieldOf(column);
+    if (auto *const list = dynamic_cast<Combo *>(&field))
+        list->setBoundText(stored);
+    else
+        field.setText(stored);
 }
 
 bool RecordScreen::confirmDelete()

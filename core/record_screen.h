@@ -25,6 +25,13 @@ protected:
     /// Data fields emptied and closed, key fields emptied if wanted and open. The screen then gives the focus.
     void openKeyStage(bool clearKey = true);
 
+    /// The field that shows a column bears the column's name behind its kind: txtName, dcbSemat.
+    [[nodiscard]] Edit &fieldOf(QStringView column) const;
+    /// The column's value for a statement: trimmed and quoted, a list's code.
+    [[nodiscard]] QString valueOf(QStringView column) const;
+    /// Shows a stored value: a text, or the row of a list that has this code.
+    void showValue(QStringView column, const QString &stored);
+
     /// The question before a record is deleted.
     bool confirmDelete();
 

@@ -289,14 +289,8 @@ void frmKarfarma::showRecord()
     if (payer.recordCount() > 1)
         messageBox(box::Refusal, Refused,
                    u" بيش از يک پرداخت کننده حقوق در جدول مربوطه تعريف گرديده است.لطفا با برنامه نويس تماس بگيريد "_s);
-    for (const auto column : DataColumns) {
-        const QString text = payer.value(column).toText();
-        Edit &field = fieldOf(column);
-        if (auto *const list = dynamic_cast<Combo *>(&field))
-            list->setBoundText(text);
-        else
-            field.setText(text);
-    }
+    for (const auto column : DataColumns)
+        showValue(column, payer.value(column).toText());
 }
 
 void frmKarfarma::backToKey()
@@ -369,22 +363,6 @@ void frmKarfarma::cmdDataOk_Click()
     } catch (const RunTimeError &failure) {
         ShowInlineError(m_platform, failure);
     }
-}
-
-/// The field that shows a column bears its name behind its kind.
-Edit &frmKarfarma::fieldOf(QStringView column) const
-{
-    for (const QString &name : {QString(u"txt" + column), QString(u"dcb" + column)})
-        if (auto *const field = dynamic_cast<Edit *>(find(name)))
-            return *field;
-    throw RunTimeError(error::SubscriptOutOfRange, column.toString());
-}
-
-QString frmKarfarma::valueOf(QStringView column) const
-{
-    const Edit &field = fieldOf(column);
-    const auto *const list = dynamic_cast<const Combo *>(&field);
-    return quoted((list ? list->boundText() : field.text()).trimmed());
 }
 
 QString frmKarfarma::keyCondition() const

@@ -118,8 +118,6 @@ private:
     bool AddRoutine();
     bool UpdateRoutine();
     void DeleteRoutine();
-    [[nodiscard]] Edit &fieldOf(QStringView column) const;
-    [[nodiscard]] QString valueOf(QStringView column) const;
     [[nodiscard]] QString keyCondition() const;
 
     bool m_recordExists = false;
