@@ -16,6 +16,14 @@
 
 namespace zrv {
 
+Binder::Binder(Control &control, FormWindow &window)
+    : m_control(control)
+    , m_window(window)
+{
+}
+
+Binder::~Binder() = default;
+
 void Binder::adopt(QWidget &widget) const
 {
     widget.setObjectName(m_control.name());
@@ -39,9 +47,15 @@ void Binder::refresh(Aspect aspect)
         shown->setToolTip(m_control.toolTip());
         break;
     case Aspect::Colors: {
-        QPalette palette = shown->palette();
-        palette.setColor(QPalette::Active, QPalette::WindowText, QColor(m_control.textColor()));
-        palette.setColor(QPalette::Inactive, QPalette::WindowText, QColor(m_control.textColor()));
+        // Only a colour that the screen chose counts; the widget's kind has its own.
+        if (m_control.textColor() == color::Text && !m_plainPalette)
+            break;
+        if (!m_plainPalette)
+            m_plainPalette = std::make_unique<QPalette>(shown->palette());
+        QPalette palette = *m_plainPalette;
+        if (m_control.textColor() != color::Text)
+            for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+                palette.setColor(group, QPalette::WindowText, QColor(m_control.textColor()));
         shown->setPalette(palette);
         break;
     }

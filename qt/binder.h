@@ -8,6 +8,7 @@
 class QAction;
 class QEvent;
 class QKeyEvent;
+class QPalette;
 class QWidget;
 
 namespace zrv {
@@ -18,12 +19,8 @@ class FormWindow;
 /// to the form. There is one class per kind of control; makeBinder chooses.
 class Binder {
 public:
-    Binder(Control &control, FormWindow &window)
-        : m_control(control)
-        , m_window(window)
-    {
-    }
-    virtual ~Binder() = default;
+    Binder(Control &control, FormWindow &window);
+    virtual ~Binder();
     Binder(const Binder &) = delete;
     Binder &operator=(const Binder &) = delete;
 
@@ -52,6 +49,9 @@ protected:
 
     Control &m_control;
     FormWindow &m_window;
+
+private:
+    std::unique_ptr<QPalette> m_plainPalette; ///< before the screen coloured the text
 };
 
 /// A new binder of the control's kind, its widget made and lying in the widget of the control's container.

@@ -28,10 +28,12 @@ protected:
     {
         Q_UNUSED(event);
         QPainter painter(this);
-        const QRect room = contentsRect();
-        style()->drawItemText(&painter, room, Qt::AlignRight | Qt::AlignVCenter | Qt::TextSingleLine, palette(),
-                              isEnabled(), fontMetrics().elidedText(text(), Qt::ElideMiddle, room.width()),
-                              foregroundRole());
+        drawFrame(&painter);
+        const QRect room = contentsRect().adjusted(margin() + 4, 0, -margin() - 4, 0);
+        const int flags =
+            Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight;
+        style()->drawItemText(&painter, room, flags, palette(), isEnabled(),
+                              fontMetrics().elidedText(text(), Qt::ElideMiddle, room.width()), foregroundRole());
     }
 };
 
@@ -58,12 +60,6 @@ void LabelBinder::refresh(Aspect aspect)
         m_widget->setText(m_label.caption());
         return;
     }
-    if (aspect == Aspect::Colors && m_label.backColor() != color::Window) {
-        QPalette palette = m_widget->palette();
-        palette.setColor(QPalette::Window, QColor(m_label.backColor()));
-        m_widget->setPalette(palette);
-        m_widget->setAutoFillBackground(true);
-    }
     Binder::refresh(aspect);
 }
 
@@ -83,6 +79,7 @@ StatusPanelBinder::StatusPanelBinder(StatusPanel &panel, FormWindow &window)
 {
     adopt(*m_widget);
     m_widget->setTextFormat(Qt::PlainText);
+    m_widget->setContentsMargins(8, 2, 8, 2);
     const bool spring = panel.size() == StatusPanel::Size::Spring;
     // A long payer's name must not force the window wider than its screen.
     if (spring)

@@ -20,10 +20,11 @@ FieldEdit::FieldEdit(Edit &edit, FormWindow &window, QWidget *parent)
     , m_edit(edit)
     , m_window(window)
 {
-    if (edit.isLeftToRight()) {
-        setLayoutDirection(Qt::LeftToRight);
-        setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
-    }
+    // Left to itself, the line would follow its first letter. It only listens to a change, so it gets one.
+    setLayoutDirection(Qt::LeftToRight);
+    if (!edit.isLeftToRight())
+        setLayoutDirection(Qt::RightToLeft);
+    setAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
     connect(this, &QLineEdit::textChanged, this, [this] { textEditedByWidget(); });
     connect(this, &QLineEdit::selectionChanged, this, [this] { selectionMovedByWidget(); });
     connect(this, &QLineEdit::cursorPositionChanged, this, [this] { selectionMovedByWidget(); });

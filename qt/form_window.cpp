@@ -49,6 +49,9 @@ FormWindow::FormWindow(Form &form, QtPlatform &platform, QWidget *parent)
 FormWindow::~FormWindow()
 {
     m_form.setView(nullptr);
+    // Widgets that go still tell of pages and rows that go; nobody is to hear that, and the binders must outlive it.
+    m_leaving = true;
+    delete m_scroll;
 }
 
 void FormWindow::makeBinders()
@@ -168,6 +171,8 @@ void FormWindow::syncFocus()
 
 void FormWindow::enter(const std::function<void()> &action)
 {
+    if (m_leaving)
+        return;
     m_platform.enter(action);
     if (!m_platform.isEnding() && m_form.isOpen() && !m_form.isBusy())
         syncFocus();
@@ -247,7 +252,7 @@ bool FormWindow::watchedEvent(Binder &binder, QObject *object, QEvent &event)
 bool FormWindow::eventFilter(QObject *object, QEvent *event)
 {
     const auto watched = m_watched.find(object);
-    return watched != m_watched.end() && watchedEvent(*watched->second, object, *event);
+    return !m_leaving && watched != m_watched.end() && watchedEvent(*watched->second, object, *event);
 }
 
 void FormWindow::keyPressEvent(QKeyEvent *event)
@@ -272,23 +277,34 @@ void FormWindow::closeEvent(QCloseEvent *event)
 
 // Size and place ------------------------------------------------------------------------------------------------
 
-QSize FormWindow::fittingSize() const
+/// The size at which nothing has to be scrolled.
+QSize FormWindow::groundSize() const
+{
+    QSize size = m_ground->sizeHint().expandedTo(m_ground->minimumSize());
+    // Texts that wrap need less height in the window's width than in their own.
+    const QLayout *const cells = m_ground->layout();
+    if (cells && cells->hasHeightForWidth())
+        size.setHeight(std::max(cells->heightForWidth(size.width()), m_ground->minimumHeight()));
+    return size;
+}
+
+void FormWindow::fit()
 {
     const QSize room = screen()->availableSize() - QSize(8, 40); // what a window manager draws around it
-    QSize size = m_ground->sizeHint().expandedTo(m_ground->minimumSizeHint());
-    if (m_menuBar)
-        size.rheight() += m_menuBar->sizeHint().height();
-    if (m_statusBar)
-        size.rheight() += m_statusBar->sizeHint().height();
-    // A window that is cut in height needs room for the bar that scrolls it.
-    if (size.height() > room.height())
-        size.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
-    return size.boundedTo(room);
+    const QSize wanted = groundSize();
+    ensurePolished();
+    resize(wanted.boundedTo(room));
+    layout()->activate();
+    // What the bars have taken is given back. A window that is cut in height needs room for the bar that scrolls it.
+    QSize missing = wanted - m_scroll->size();
+    if (height() + missing.height() > room.height())
+        missing.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
+    resize((size() + missing).boundedTo(room));
 }
 
 void FormWindow::open()
 {
-    resize(fittingSize());
+    fit();
     const QWidget *const over = parentWidget();
     const QRect around = over && over->isVisible() ? over->frameGeometry() : screen()->availableGeometry();
     const QRect room = screen()->availableGeometry();

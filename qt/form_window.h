@@ -74,7 +74,8 @@ protected:
 private:
     void makeBinders();
     void watch(Binder &binder);
-    QSize fittingSize() const;
+    [[nodiscard]] QSize groundSize() const;
+    void fit();
     bool keyPressed(Binder *binder, const QKeyEvent &event);
     bool watchedEvent(Binder &binder, QObject *object, QEvent &event);
 
@@ -85,6 +86,7 @@ private:
     QMenuBar *m_menuBar = nullptr;
     QStatusBar *m_statusBar = nullptr;
     const Control *m_typingIn = nullptr;
+    bool m_leaving = false;
     std::unordered_map<const Control *, std::unique_ptr<Binder>> m_binders;
     std::unordered_map<const QObject *, Binder *> m_watched;
 };

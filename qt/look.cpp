@@ -26,6 +26,7 @@ constexpr QRgb PaleInk = 0xFF5C5A54; ///< what is switched off, and remarks
 constexpr QRgb Accent = 0xFF24596E;  ///< focus, the default button, headings
 constexpr QRgb AccentPale = 0xFFDCE6E9;
 constexpr QRgb Paper = 0xFFFFFFFF;
+constexpr QRgb GroundLine = 0xFFDEDCD4; ///< the drawing behind the main form
 constexpr QRgb PaperShade = 0xFFF6F5F0;
 
 constexpr QRgb solid(Color color)
@@ -149,12 +150,15 @@ void makeRemark(QWidget &label)
 
 void makeValue(QWidget &label)
 {
-    label.setMinimumWidth(label.fontMetrics().horizontalAdvance(u'0') * 16);
-    label.setAutoFillBackground(true);
+    label.setMinimumWidth(label.fontMetrics().averageCharWidth() * 16);
     QPalette colors = label.palette();
     colors.setColor(QPalette::Window, QColor::fromRgb(PaperShade));
     label.setPalette(colors);
-    label.setContentsMargins(6, 2, 6, 2);
+    if (auto *text = qobject_cast<QLabel *>(&label)) {
+        text->setFrameStyle(QFrame::StyledPanel);
+        text->setMargin(2);
+        text->setIndent(4);
+    }
 }
 
 void makeTile(QWidget &button)
@@ -223,11 +227,13 @@ void Ground::paintEvent(QPaintEvent *event)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    const double step = fontMetrics().height() * 4.0;
-    painter.setPen(QPen(QColor::fromRgb(0xFFE3E1DA), 1.2));
-    for (double y = 0; y < height() + step; y += step)
-        for (double x = 0; x < width() + step; x += step)
-            painter.drawPath(star({x, y}, step * 0.5));
+    // Stars in rows that are set off against each other, so faint that the buttons stay what is seen.
+    const double step = fontMetrics().height() * 3.0;
+    painter.setPen(QPen(QColor::fromRgb(GroundLine), 1.2));
+    int row = 0;
+    for (double y = 0; y < height() + step; y += step / 2, ++row)
+        for (double x = row % 2 ? step / 2 : 0; x < width() + step; x += step)
+            painter.drawPath(star({x, y}, step * 0.22).simplified());
 }
 
 } // namespace zrv::look

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/style.h"
 
+#include <QLabel>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -40,7 +41,7 @@ QColor buttonGround(const QStyleOptionButton &option)
 
 void paintArrow(QPainter &painter, const QRect &room, const QColor &color)
 {
-    const double half = room.height() * 0.13;
+    const double half = room.height() * 0.08;
     const QPointF center = QRectF(room).center();
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
@@ -86,6 +87,13 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
             return;
         }
         break;
+    case PE_Frame:
+        // The ground of a label that shows a value; the frames of lists and tables are lines only.
+        if (qobject_cast<const QLabel *>(widget)) {
+            paintBody(*painter, *option, option->palette.color(QPalette::Window), false);
+            return;
+        }
+        break;
     case PE_FrameGroupBox:
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
@@ -94,6 +102,13 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), Radius + 2, Radius + 2);
         painter->restore();
         return;
+    case PE_FrameStatusBarItem: {
+        // A line between the panels.
+        const int edge = option->direction == Qt::RightToLeft ? option->rect.left() : option->rect.right();
+        painter->setPen(option->palette.color(QPalette::Mid));
+        painter->drawLine(edge, option->rect.top() + 3, edge, option->rect.bottom() - 3);
+        return;
+    }
     case PE_FrameFocusRect:
         if (const auto *item = qstyleoption_cast<const QStyleOptionFocusRect *>(option);
             item && !(option->state & State_Item)) {
@@ -137,8 +152,10 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     }
     const bool focused = combo->state & State_HasFocus && combo->state & State_Enabled;
     paintBody(*painter, *combo, combo->palette.color(QPalette::Base), focused);
-    paintArrow(*painter, subControlRect(CC_ComboBox, combo, SC_ComboBoxArrow, widget),
-               combo->palette.color(QPalette::Text));
+    const int side = combo->rect.height();
+    const bool mirrored = combo->direction == Qt::RightToLeft;
+    const QRect arrow(mirrored ? combo->rect.left() : combo->rect.right() - side, combo->rect.top(), side, side);
+    paintArrow(*painter, arrow, combo->palette.color(QPalette::Text));
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
@@ -146,16 +163,19 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
     switch (metric) {
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
-        return 8;
+        // Alike: a line in a grid takes its spacing from it only when both are.
+        return 7;
     case PM_LayoutLeftMargin:
     case PM_LayoutRightMargin:
     case PM_LayoutTopMargin:
     case PM_LayoutBottomMargin:
         return 12;
     case PM_ButtonMargin:
-        return 14;
+        return 6;
     case PM_DefaultFrameWidth:
         return 2;
+    case PM_MessageBoxIconSize:
+        return 40;
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -174,12 +194,63 @@ int Style::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *
     }
 }
 
+namespace {
+
+/// The sign of a message box: a disc with a letter in the manner of the program's other drawings; null for others.
+QPixmap boxSign(QStyle::StandardPixmap which, int side, double ratio)
+{
+    struct Row {
+        QStyle::StandardPixmap which;
+        QRgb disc;
+        char16_t letter;
+    };
+    static constexpr Row rows[] = {{QStyle::SP_MessageBoxCritical, 0xFFB3392F, u'!'},
+                                   {QStyle::SP_MessageBoxWarning, 0xFFB9770E, u'!'},
+                                   {QStyle::SP_MessageBoxInformation, 0xFF24596E, u'i'},
+                                   {QStyle::SP_MessageBoxQuestion, 0xFF24596E, u'\u061F'}};
+    for (const Row &row : rows) {
+        if (row.which != which)
+            continue;
+        QPixmap sign(QSize(side, side) * ratio);
+        sign.setDevicePixelRatio(ratio);
+        sign.fill(Qt::transparent);
+        QPainter painter(&sign);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor::fromRgb(row.disc));
+        painter.drawEllipse(QRectF(1, 1, side - 2, side - 2));
+        QFont font = painter.font();
+        font.setPixelSize(side * 5 / 8);
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(Qt::white);
+        painter.drawText(QRectF(0, 0, side, side), Qt::AlignCenter, QChar(row.letter));
+        return sign;
+    }
+    return {};
+}
+
+} // namespace
+
+QIcon Style::standardIcon(StandardPixmap pixmap, const QStyleOption *option, const QWidget *widget) const
+{
+    const QPixmap sign = boxSign(pixmap, 40, widget ? widget->devicePixelRatioF() : 1.0);
+    return sign.isNull() ? QProxyStyle::standardIcon(pixmap, option, widget) : QIcon(sign);
+}
+
+QPixmap Style::standardPixmap(StandardPixmap pixmap, const QStyleOption *option, const QWidget *widget) const
+{
+    const QPixmap sign = boxSign(pixmap, 40, widget ? widget->devicePixelRatioF() : 1.0);
+    return sign.isNull() ? QProxyStyle::standardPixmap(pixmap, option, widget) : sign;
+}
+
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                               const QWidget *widget) const
 {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
     if (type == CT_PushButton)
-        size.rwidth() = std::max(size.width(), option->fontMetrics.averageCharWidth() * 14);
+        size.rwidth() = std::max(size.width() + 2 * option->fontMetrics.averageCharWidth(),
+                                 option->fontMetrics.averageCharWidth() * 14);
     return size;
 }
 

@@ -19,6 +19,8 @@ public:
     int pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override;
+    QIcon standardIcon(StandardPixmap pixmap, const QStyleOption *option, const QWidget *widget) const override;
+    QPixmap standardPixmap(StandardPixmap pixmap, const QStyleOption *option, const QWidget *widget) const override;
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                            const QWidget *widget) const override;
 };

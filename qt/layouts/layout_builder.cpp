@@ -183,7 +183,7 @@ void LayoutBuilder::drawGround()
 void LayoutBuilder::atLeast(int letters, int lines)
 {
     const QFontMetrics metrics = m_window.fontMetrics();
-    m_window.ground()->setMinimumSize(metrics.averageCharWidth() * letters, metrics.height() * lines);
+    m_window.ground()->setMinimumSize(metrics.horizontalAdvance(u'0') * letters, metrics.height() * lines);
 }
 
 } // namespace zrv

@@ -3,8 +3,7 @@
 
 #include "qt/form_window.h"
 #include "qt/layouts/layout_builder.h"
-
-#include <QBoxLayout>
+#include "qt/layouts/plain_layout.h"
 
 namespace zrv {
 
@@ -25,25 +24,6 @@ constexpr Row layouts[] = {
 };
 // clang-format on
 
-void layOutPlainly(const FormWindow &window, Container &container)
-{
-    auto *const box = new QVBoxLayout;
-    for (Control *control : container.children()) {
-        QWidget *const widget = window.widgetFor(*control);
-        const bool onBar = control->kind() == ControlKind::StatusPanel;
-        const bool isPage = container.containerControl() && container.containerControl()->kind() == ControlKind::Tabs;
-        if (widget && !onBar && !isPage)
-            box->addWidget(widget);
-        if (auto *inner = dynamic_cast<Container *>(control); inner && control->kind() != ControlKind::MenuItem)
-            layOutPlainly(window, *inner);
-    }
-    box->addStretch(1);
-    if (QWidget *const around = window.groundOf(container); !around->layout())
-        around->setLayout(box);
-    else
-        delete box;
-}
-
 } // namespace
 
 void layOut(FormWindow &window)
@@ -55,7 +35,7 @@ void layOut(FormWindow &window)
             return;
         }
     }
-    layOutPlainly(window, window.form());
+    layOutPlainly(window);
 }
 
 } // namespace zrv

@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A layout and its screen name the same things: no control without a place, no named widget without a control.
+#include "app/catalogue.h"
+#include "core/screen.h"
+#include "tests/qt/window_fixture.h"
+
+#include <QLayout>
+#include <QMenu>
+#include <QScreen>
+#include <QTabWidget>
+
+#include <set>
+
+namespace zrv::test {
+
+namespace {
+
+void collect(const QLayout *layout, std::set<const QWidget *> &placed)
+{
+    for (int place = 0; layout && place < layout->count(); ++place) {
+        QLayoutItem *const item = layout->itemAt(place);
+        if (item->widget()) {
+            EXPECT_TRUE(placed.insert(item->widget()).second)
+                << "placed twice: " << qPrintable(item->widget()->objectName());
+            collect(item->widget()->layout(), placed);
+        }
+        collect(item->layout(), placed);
+    }
+}
+
+bool isPage(const Control &control)
+{
+    const Control *const outer = control.container().containerControl();
+    return outer && outer->kind() == ControlKind::Tabs;
+}
+
+class LayoutOf : public testing::TestWithParam<std::string> {
+protected:
+    LayoutOf()
+    {
+        fillCatalogue(program.catalogue);
+        screen = program.catalogue.make(QString::fromStdString(GetParam()), program);
+        window = std::make_unique<FormWindow>(*screen, platform, nullptr);
+    }
+
+    QuietPlatform platform;
+    Program program{platform};
+    std::unique_ptr<Screen> screen;
+    std::unique_ptr<FormWindow> window;
+};
+
+std::vector<std::string> screenNames()
+{
+    Catalogue catalogue;
+    fillCatalogue(catalogue);
+    std::vector<std::string> names;
+    for (const QString &name : catalogue.names())
+        names.push_back(name.toStdString());
+    return names;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Screens, LayoutOf, testing::ValuesIn(screenNames()),
+                         [](const auto &screen) { return screen.param; });
+
+TEST_P(LayoutOf, EveryControlHasAPlace)
+{
+    std::set<const QWidget *> placed;
+    collect(window->ground()->layout(), placed);
+    for (Control *control : screen->controls()) {
+        if (control->kind() == ControlKind::Timer)
+            continue;
+        if (control->kind() == ControlKind::MenuItem) {
+            EXPECT_TRUE(window->actionFor(*control)) << qPrintable(control->name());
+            continue;
+        }
+        QWidget *const widget = window->widgetFor(*control);
+        ASSERT_TRUE(widget) << qPrintable(control->name());
+        EXPECT_EQ(widget->objectName(), control->name());
+        if (isPage(*control)) {
+            collect(widget->layout(), placed);
+        } else if (control->kind() != ControlKind::StatusPanel) {
+            EXPECT_TRUE(placed.contains(widget)) << qPrintable(control->name()) << " lies in no layout";
+        }
+        Control *const outer = control->container().containerControl();
+        if (outer && outer->kind() != ControlKind::Tabs) {
+            EXPECT_EQ(widget->parentWidget(), window->widgetFor(*outer)) << qPrintable(control->name());
+        }
+    }
+}
+
+TEST_P(LayoutOf, EveryNamedWidgetIsAControl)
+{
+    for (const QWidget *widget : window->findChildren<QWidget *>()) {
+        const QString name = widget->objectName();
+        if (!name.isEmpty() && !name.startsWith(u"qt_")) {
+            EXPECT_TRUE(screen->find(name)) << qPrintable(name);
+        }
+    }
+}
+
+TEST_P(LayoutOf, TheWindowRunsFromRightToLeftAndBearsTheScreensName)
+{
+    EXPECT_EQ(window->layoutDirection(), Qt::RightToLeft);
+    EXPECT_EQ(window->objectName(), screen->name());
+    EXPECT_EQ(window->windowTitle(), screen->caption());
+}
+
+TEST_P(LayoutOf, NothingIsCutSidewaysOnA1024PixelDisplay)
+{
+    window->ensurePolished();
+    EXPECT_LE(window->ground()->sizeHint().width(), 1008);
+    EXPECT_LE(window->ground()->minimumSizeHint().width(), 1008);
+}
+
+} // namespace zrv::test

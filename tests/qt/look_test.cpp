@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/difference.h"
+#include "qt/look.h"
+#include "tests/qt/window_fixture.h"
+
+#include <cmath>
+
+namespace zrv::test {
+
+namespace {
+
+double light(int part)
+{
+    const double share = part / 255.0;
+    return share <= 0.03928 ? share / 12.92 : std::pow((share + 0.055) / 1.055, 2.4);
+}
+
+double light(const QColor &color)
+{
+    return 0.2126 * light(color.red()) + 0.7152 * light(color.green()) + 0.0722 * light(color.blue());
+}
+
+/// The contrast ratio by which accessibility rules measure: 1 for alike, 21 for black on white.
+double contrast(const QColor &one, const QColor &other)
+{
+    const auto [dark, bright] = std::minmax({light(one), light(other)});
+    return (bright + 0.05) / (dark + 0.05);
+}
+
+} // namespace
+
+TEST(Look, TextIsReadableSwitchedOnAndOff)
+{
+    const QPalette palette = look::palette();
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+        EXPECT_GE(contrast(palette.color(group, QPalette::Text), palette.color(group, QPalette::Base)), 4.5);
+        EXPECT_GE(contrast(palette.color(group, QPalette::WindowText), palette.color(group, QPalette::Window)), 4.5);
+        EXPECT_GE(contrast(palette.color(group, QPalette::ButtonText), palette.color(group, QPalette::Button)), 4.5);
+    }
+    EXPECT_GE(contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 4.5);
+}
+
+TEST(Look, TextIsReadableOnEveryColourThatAScreenGivesAField)
+{
+    QLineEdit field;
+    for (const Color back :
+         {color::Field, color::KeyField, color::DataField, color::FramedCombo, color::RequiredEmpty}) {
+        look::colorField(field, back, color::Text);
+        EXPECT_EQ(field.palette().color(QPalette::Base).rgb() & 0xFFFFFF, back);
+        EXPECT_GE(contrast(field.palette().color(QPalette::Text), field.palette().color(QPalette::Base)), 4.5);
+    }
+}
+
+TEST(Look, TheFocusRingStandsOutFromTheFieldAndTheWindow)
+{
+    const QPalette palette = look::palette();
+    for (const Color back : {color::Window, color::Field, color::KeyField, color::DataField, color::RequiredEmpty})
+        EXPECT_GE(contrast(palette.color(QPalette::Highlight), QColor(back)), 3.0);
+}
+
+TEST(Difference, TheOneRunThatDiffersIsFound)
+{
+    const Difference middle = difference(u"abXcd", u"abYZcd");
+    EXPECT_EQ(middle.start, 2);
+    EXPECT_EQ(middle.removed, 1);
+    EXPECT_EQ(middle.inserted, u"YZ"_s);
+    EXPECT_EQ(difference(u"aa", u"aaa").inserted, u"a"_s);
+    EXPECT_EQ(difference(u"abc", u"").removed, 3);
+    EXPECT_EQ(difference(u"", u"abc").inserted, u"abc"_s);
+}
+
+TEST(Difference, ASurrogatePairIsNeverCut)
+{
+    // Two emoji that share their first half.
+    const Difference change = difference(u"a\U0001F600", u"a\U0001F601");
+    EXPECT_EQ(change.start, 1);
+    EXPECT_EQ(change.inserted, u"\U0001F601"_s);
+}
+
+} // namespace zrv::test

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Boxes, modal runs and the end of the program.
+#include "tests/qt/window_fixture.h"
+
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+
+namespace zrv::test {
+
+namespace {
+
+/// Shows a box with the real platform and lets `look` act on it; returns its answer.
+Answer shownBox(int style, const QString &title, const QString &text, const std::function<void(QMessageBox &)> &look)
+{
+    QtPlatform platform;
+    QTimer::singleShot(0, qApp, [&] {
+        for (QWidget *widget : QApplication::topLevelWidgets())
+            if (auto *box = qobject_cast<QMessageBox *>(widget); box && box->isVisible())
+                look(*box);
+    });
+    return platform.messageBox(style, title, text);
+}
+
+void clickFirst(QMessageBox &box)
+{
+    box.buttons().constFirst()->click();
+}
+
+class ModalForm : public TestForm {
+public:
+    Button go{*this, u"go"_s, {.caption = u"go"_s}};
+};
+
+} // namespace
+
+TEST(MessageBox, TitleAndTextAreGivenLetterForLetter)
+{
+    shownBox(box::Refusal, u" اخطار  "_s, u"  نام كاربري و پسورد صحيح نميباشد "_s, [](QMessageBox &box) {
+        EXPECT_EQ(box.windowTitle(), u" اخطار  "_s);
+        EXPECT_EQ(box.text(), u"  نام كاربري و پسورد صحيح نميباشد "_s);
+        EXPECT_EQ(box.icon(), QMessageBox::Critical);
+        EXPECT_EQ(box.layoutDirection(), Qt::RightToLeft);
+        clickFirst(box);
+    });
+}
+
+TEST(MessageBox, EveryKindOfLineEndBreaksTheLineOnce)
+{
+    shownBox(box::Plain, {}, u"a\rb\r\nc\nd"_s, [](QMessageBox &box) {
+        EXPECT_EQ(box.text(), u"a\nb\nc\nd"_s);
+        EXPECT_EQ(box.windowTitle(), QString());
+        EXPECT_EQ(box.icon(), QMessageBox::NoIcon);
+        clickFirst(box);
+    });
+}
+
+TEST(MessageBox, ItsTextCanBeMarkedByMouseAndKeyboardAndIsNoMarkup)
+{
+    shownBox(box::Information, {}, u"<b>138902</b>"_s, [](QMessageBox &box) {
+        auto *const label = box.findChild<QLabel *>(u"qt_msgbox_label"_s);
+        ASSERT_TRUE(label);
+        EXPECT_TRUE(label->textInteractionFlags() & Qt::TextSelectableByMouse);
+        EXPECT_TRUE(label->textInteractionFlags() & Qt::TextSelectableByKeyboard);
+        EXPECT_EQ(label->textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.icon(), QMessageBox::Information);
+        clickFirst(box);
+    });
+}
+
+TEST(MessageBox, AQuestionHasYesFirstAndEscapeIsNo)
+{
+    const Answer answer = shownBox(box::AskYesNo, {}, u"?"_s, [](QMessageBox &box) {
+        EXPECT_EQ(box.icon(), QMessageBox::Question);
+        ASSERT_EQ(box.buttons().size(), 2);
+        EXPECT_EQ(box.defaultButton()->text(), u"بله"_s);
+        EXPECT_EQ(box.escapeButton()->text(), u"خير"_s);
+        pressKey(box, Qt::Key_Escape);
+    });
+    EXPECT_EQ(answer, Answer::No);
+}
+
+TEST(MessageBox, EnterAnswersYesAndAPlainBoxAnswersOk)
+{
+    EXPECT_EQ(
+        shownBox(box::YesNo, {}, u"?"_s, [](QMessageBox &box) { pressKey(*box.defaultButton(), Qt::Key_Return); }),
+        Answer::Yes);
+    EXPECT_EQ(shownBox(box::Information, {}, u"!"_s,
+                       [](QMessageBox &box) {
+                           EXPECT_EQ(box.defaultButton()->text(), u"تاييد"_s);
+                           pressKey(box, Qt::Key_Escape);
+                       }),
+              Answer::Ok);
+}
+
+TEST(ModalRun, ItReturnsWhenTheFormCloses)
+{
+    QtPlatform platform;
+    ModalForm form;
+    form.go.onClick = [&] { form.unload(); };
+    form.load();
+    QTimer::singleShot(0, qApp, [&] {
+        EXPECT_EQ(platform.topWindow(), platform.windowOf(form));
+        EXPECT_EQ(platform.topWindow()->windowModality(), Qt::ApplicationModal);
+        static_cast<QPushButton *>(platform.topWindow()->widgetFor(form.go))->click();
+    });
+    platform.runModal(form);
+    EXPECT_FALSE(form.isOpen());
+    EXPECT_EQ(platform.topWindow(), nullptr);
+}
+
+TEST(ModalRun, TheEndOfTheProgramLeavesEveryNestedRun)
+{
+    QtPlatform platform;
+    ModalForm outer;
+    ModalForm inner;
+    bool outerWentOn = false;
+    outer.go.onClick = [&] {
+        inner.load();
+        platform.runModal(inner);
+        outerWentOn = true;
+    };
+    inner.go.onClick = [] { throw ProgramEnd{}; };
+    outer.load();
+    QTimer::singleShot(0, qApp, [&] {
+        QTimer::singleShot(0, qApp,
+                           [&] { static_cast<QPushButton *>(platform.windowOf(inner)->widgetFor(inner.go))->click(); });
+        static_cast<QPushButton *>(platform.windowOf(outer)->widgetFor(outer.go))->click();
+    });
+    EXPECT_THROW(platform.runModal(outer), ProgramEnd);
+    EXPECT_FALSE(outerWentOn);
+    EXPECT_TRUE(platform.isEnding());
+    EXPECT_EQ(platform.topWindow(), nullptr);
+}
+
+TEST(ModalRun, ABoxThatIsOpenWhenTheProgramEndsGoesWithIt)
+{
+    QtPlatform platform;
+    ModalForm form;
+    Timer timer(form, u"tmrEnd"_s, 20);
+    form.go.onClick = [&] { platform.messageBox(box::Plain, {}, u"waits"_s); };
+    timer.onTimer = [] {
+        if (QApplication::activeModalWidget() && qobject_cast<QMessageBox *>(QApplication::activeModalWidget()))
+            throw ProgramEnd{};
+    };
+    form.load();
+    QTimer::singleShot(0, qApp,
+                       [&] { static_cast<QPushButton *>(platform.windowOf(form)->widgetFor(form.go))->click(); });
+    EXPECT_THROW(platform.runModal(form), ProgramEnd);
+}
+
+TEST(Settings, ASavedValueIsReadBackAndOthersFallBack)
+{
+    QtPlatform platform;
+    platform.saveSetting(u"PrevSoftVersion"_s, u"PrevSoftVersionKey"_s, u"( نسخه 1.1.38 - 89/03/03 )"_s);
+    EXPECT_EQ(platform.setting(u"PrevSoftVersion"_s, u"PrevSoftVersionKey"_s, u"1"_s), u"( نسخه 1.1.38 - 89/03/03 )"_s);
+    EXPECT_EQ(platform.setting(u"Other"_s, u"Key"_s, u"1"_s), u"1"_s);
+}
+
+} // namespace zrv::test
