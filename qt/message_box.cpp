@@ -53,8 +53,8 @@ Answer QtPlatform::messageBox(int style, const QString &title, const QString &te
     QObject::connect(&box, &QDialog::finished, &box, [this] { wake(); });
     box.show();
     waitUntil([&] { return !box.isVisible(); });
-    if (m_ending)
-        throw ProgramEnd{};
+    if (isEnding())
+        throwOn();
     if (!asks)
         return Answer::Ok;
     return box.clickedButton() == first ? Answer::Yes : Answer::No;

@@ -45,7 +45,7 @@ QtPlatform::~QtPlatform() = default;
 void QtPlatform::runModal(Form &form)
 {
     if (m_windows.empty())
-        m_ending = false;
+        m_thrown = nullptr;
     FormWindow window(form, *this, topWindow());
     m_windows.push_back(&window);
     struct Leave {
@@ -55,10 +55,10 @@ void QtPlatform::runModal(Form &form)
     window.open();
     form.activate();
     window.syncFocus();
-    if (form.isOpen() && !m_ending)
+    if (form.isOpen() && !isEnding())
         waitWhileOpen(form);
-    if (m_ending)
-        throw ProgramEnd{};
+    if (isEnding())
+        throwOn();
 }
 
 void QtPlatform::waitWhileOpen(Form &form)
@@ -68,7 +68,7 @@ void QtPlatform::waitWhileOpen(Form &form)
 
 void QtPlatform::waitUntil(const std::function<bool()> &isOver)
 {
-    while (!isOver() && !m_ending) {
+    while (!isOver() && !isEnding()) {
         QEventLoop loop;
         m_loops.push_back(&loop);
         loop.exec();
@@ -82,10 +82,9 @@ void QtPlatform::wake()
         loop->quit();
 }
 
-void QtPlatform::end()
+void QtPlatform::throwOn() const
 {
-    m_ending = true;
-    wake();
+    std::rethrow_exception(m_thrown);
 }
 
 void QtPlatform::enter(const std::function<void()> &action)
@@ -98,8 +97,10 @@ void QtPlatform::enter(const std::function<void()> &action)
         } catch (const std::exception &failure) {
             ShowUnknownError(*this, RunTimeError(error::InvalidProcedureCall, QString::fromUtf8(failure.what())));
         }
-    } catch (const ProgramEnd &) {
-        end();
+    } catch (...) {
+        // ProgramEnd, or what a driver of the windows throws to leave the screens.
+        m_thrown = std::current_exception();
+        wake();
     }
 }
 
@@ -134,8 +135,8 @@ std::optional<QString> QtPlatform::openFileDialog(const QString &folder, const Q
     QObject::connect(&dialog, &QDialog::finished, &dialog, [this] { wake(); });
     dialog.show();
     waitUntil([&] { return !dialog.isVisible(); });
-    if (m_ending)
-        throw ProgramEnd{};
+    if (isEnding())
+        throwOn();
     if (dialog.result() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return dialog.selectedFiles().constFirst();

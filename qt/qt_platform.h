@@ -6,10 +6,11 @@
 // The player of scenarios derives from it: it overrides the boxes, the file choice, the clock, the folders and the
 // settings, and waitWhileOpen to act on the windows itself instead of leaving that to a user. A form's window is
 // windowOf(form), a control's widget FormWindow::widgetFor(control). After each event that it sends, isEnding()
-// tells whether a screen has ended the program; waitWhileOpen must then return.
+// tells whether a screen has ended the program; waitWhileOpen must then return, or throwOn().
 
 #include "core/platform/platform.h"
 
+#include <exception>
 #include <functional>
 #include <vector>
 
@@ -47,11 +48,14 @@ public:
     /// The window above all others; null before the first.
     [[nodiscard]] FormWindow *topWindow() const;
 
-    /// The one way from Qt into a screen's code: nothing that the action throws gets into Qt. ProgramEnd ends all
-    /// nested loops and is thrown on by runModal when its own loop is over; any other failure is shown in a box.
+    /// The one way from Qt into a screen's code: nothing that the action throws gets into Qt. A failure is shown in a
+    /// box. What is no failure, as ProgramEnd, ends all nested loops and is thrown on by runModal when its own loop is
+    /// over.
     void enter(const std::function<void()> &action);
     /// A screen has ended the program; the loops are on their way out.
-    [[nodiscard]] bool isEnding() const { return m_ending; }
+    [[nodiscard]] bool isEnding() const { return m_thrown != nullptr; }
+    /// Throws on what has ended the program; only while isEnding.
+    [[noreturn]] void throwOn() const;
 
 protected:
     /// Returns when the form is closed or the program is ending. The form's window is shown and activated by then.
@@ -65,12 +69,10 @@ protected:
 private:
     friend class FormWindow;
 
-    void end();
-
     std::vector<FormWindow *> m_windows; ///< open ones, the topmost last
     std::vector<QEventLoop *> m_loops;   ///< running ones, the innermost last
     quint32 m_layout = 0;                ///< the layout last asked for, 0 before
-    bool m_ending = false;
+    std::exception_ptr m_thrown;         ///< what ended the program
 };
 
 } // namespace zrv

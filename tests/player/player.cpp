@@ -20,6 +20,7 @@ Player::Player(QString folder, Stage &stage, Transcript &transcript, std::functi
     , m_platform(m_folder, transcript)
 {
     m_platform.runScreen = [this](Form &form) { m_stage.runModal(form, [&] { letUserAct(form); }); };
+    m_stage.attach(m_platform);
     m_platform.boxShows = [this](const Box &box) { m_stage.boxShows(box); };
     m_platform.yields = [this] { m_stage.yields(); };
 }
@@ -35,7 +36,7 @@ Status Player::play(std::vector<Line> lines)
         return Status::Held;
     } catch (const LineFailed &) {
         return Status::Failed;
-    } catch (const ScenarioError &) {
+    } catch (const LineUnusable &) {
         return Status::Unusable;
     } catch (const std::exception &failure) {
         complain(u"the program broke off: "_s + QString::fromUtf8(failure.what()));
@@ -55,7 +56,7 @@ void Player::playNextLine()
         throw;
     } catch (const ScenarioError &error) {
         complain(QString::fromUtf8(error.what()));
-        throw;
+        throw LineUnusable{};
     }
 }
 

@@ -21,6 +21,9 @@ struct LineFailed {
     QString message; ///< one line or several; the place is added by the player
 };
 
+/// A line that turned out to make no sense when it was played.
+struct LineUnusable {};
+
 /// A box as the program gave it, with the answer it got.
 struct Box {
     int style;

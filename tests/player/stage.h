@@ -15,6 +15,8 @@ class Stage {
 public:
     virtual ~Stage() = default;
 
+    /// Told once of the platform that the program runs on.
+    virtual void attach(Platform &platform) = 0;
     /// Shows a loaded screen, activates it, and lets the user act until the screen is closed.
     virtual void runModal(Form &form, const std::function<void()> &letUserAct) = 0;
     /// A box that the platform answers.
@@ -47,6 +49,7 @@ public:
 /// No window at all: the calls of Form alone.
 class HeadlessStage : public Stage {
 public:
+    void attach(Platform &) override {}
     void runModal(Form &form, const std::function<void()> &letUserAct) override;
     void boxShows(const Box &) override {}
     void yields() override {}

@@ -205,7 +205,10 @@ void tick(Player &player, const Line &line)
 void click(Player &player, const Line &line)
 {
     Control &control = player.reachable(line.text(0));
-    carriedOut(player, line, control, player.stage().click(control));
+    // In a field or a list a click is no more than the way to it.
+    const bool clicks = !control.takesFocus() || control.kind() == ControlKind::Button
+                        || control.kind() == ControlKind::CheckBox || control.kind() == ControlKind::OptionButton;
+    carriedOut(player, line, control, clicks ? player.stage().click(control) : player.stage().focus(control));
 }
 
 void dblclick(Player &player, const Line &line)
