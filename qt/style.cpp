@@ -14,18 +14,24 @@ namespace {
 
 constexpr double Radius = 4;
 
+/// A rectangle with round corners, drawn inset from the edge of its room.
+void paintRounded(QPainter &painter, const QRect &room, double inset, double radius, const QPen &line,
+                  const QBrush &ground)
+{
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(line);
+    painter.setBrush(ground);
+    painter.drawRoundedRect(QRectF(room).adjusted(inset, inset, -inset, -inset), radius, radius);
+    painter.restore();
+}
+
 /// A field's or button's body: a flat ground, a thin line round it, a thick one in the accent when it has the focus.
 void paintBody(QPainter &painter, const QStyleOption &option, const QColor &ground, bool focused)
 {
     const QColor line = option.palette.color(focused ? QPalette::Highlight : QPalette::Mid);
     const double width = focused ? 2 : 1;
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(line, width));
-    painter.setBrush(ground);
-    const double inset = width / 2;
-    painter.drawRoundedRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset), Radius, Radius);
-    painter.restore();
+    paintRounded(painter, option.rect, width / 2, Radius, QPen(line, width), ground);
 }
 
 QColor buttonGround(const QStyleOptionButton &option)
@@ -68,14 +74,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
             QStyleOptionButton body(*button);
             paintBody(*painter, body, buttonGround(body), focused);
             // On the filled default button the ring would not be seen at its edge.
-            if (focused && body.features & QStyleOptionButton::DefaultButton) {
-                painter->save();
-                painter->setRenderHint(QPainter::Antialiasing);
-                painter->setPen(QPen(Qt::white, 1.5));
-                painter->setBrush(Qt::NoBrush);
-                painter->drawRoundedRect(QRectF(body.rect).adjusted(3, 3, -3, -3), Radius - 1, Radius - 1);
-                painter->restore();
-            }
+            if (focused && body.features & QStyleOptionButton::DefaultButton)
+                paintRounded(*painter, body.rect, 3, Radius - 1, QPen(Qt::white, 1.5), Qt::NoBrush);
             return;
         }
         break;
@@ -95,12 +95,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         }
         break;
     case PE_FrameGroupBox:
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(option->palette.color(QPalette::Mid), 1));
-        painter->setBrush(option->palette.color(QPalette::Light));
-        painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), Radius + 2, Radius + 2);
-        painter->restore();
+        paintRounded(*painter, option->rect, 0.5, Radius + 2, QPen(option->palette.color(QPalette::Mid), 1),
+                     option->palette.color(QPalette::Light));
         return;
     case PE_FrameStatusBarItem: {
         // A line between the panels.
@@ -112,12 +108,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
     case PE_FrameFocusRect:
         if (const auto *item = qstyleoption_cast<const QStyleOptionFocusRect *>(option);
             item && !(option->state & State_Item)) {
-            painter->save();
-            painter->setRenderHint(QPainter::Antialiasing);
-            painter->setPen(QPen(option->palette.color(QPalette::Highlight), 2));
-            painter->setBrush(Qt::NoBrush);
-            painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), Radius, Radius);
-            painter->restore();
+            paintRounded(*painter, option->rect, 1, Radius, QPen(option->palette.color(QPalette::Highlight), 2),
+                         Qt::NoBrush);
             return;
         }
         break;
