@@ -22,6 +22,10 @@ ComboBinder::ComboBinder(Combo &combo, FormWindow &window)
     adopt(*m_widget);
     m_widget->setEditable(true);
     m_widget->setLineEdit(m_field);
+    // The box would take the focus in the field's place and hand keys on past the form.
+    m_field->setFocusProxy(nullptr);
+    // Nor may it pick a row by itself when the field is left; the form has completed the text already.
+    QObject::disconnect(m_field, &QLineEdit::editingFinished, m_widget, nullptr);
     m_widget->setCompleter(nullptr);
     m_widget->setInsertPolicy(QComboBox::NoInsert);
     m_widget->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
