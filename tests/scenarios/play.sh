@@ -32,8 +32,10 @@ fi
 
 here=$work/$way
 rm -rf "$here"
-mkdir -p "$here/folder"
+mkdir -p "$here/folder" "$here/home"
+chmod 700 "$here/home"
 make_store "$here/folder"
 options=(--folder "$here/folder" --transcript "$here/transcript")
 [ "$way" = headless ] || options+=(--widgets)
-QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME=$here/config XDG_RUNTIME_DIR=$here exec "$bin/zrvplay" "${options[@]}" "$scenario"
+# The windows touch no display, and neither settings nor files of whoever runs this.
+QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME=$here/home XDG_RUNTIME_DIR=$here/home exec "$bin/zrvplay" "${options[@]}" "$scenario"
