@@ -166,7 +166,7 @@ void writeWkFile(const QString &path, Recordset &rows)
     file.commit();
 }
 
-int writeWhFile(const QString &path, const WhHeading &heading, const Recordset &payer, Recordset &payees,
+int writeWhFile(const QString &path, const WhHeading &heading, const Recordset &payer, Recordset &payees, int expected,
                 const std::function<void(int)> &written)
 {
     SafeFile file(path);
@@ -179,8 +179,10 @@ int writeWhFile(const QString &path, const WhHeading &heading, const Recordset &
         payeeLines.add();
         written(++count);
     }
-    lines.flush();
-    file.commit();
+    if (count == expected) {
+        lines.flush();
+        file.commit();
+    }
     return count;
 }
 

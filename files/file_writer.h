@@ -36,10 +36,10 @@ struct WhHeading {
     QString programVersion;
 };
 
-/// Writes the salary list in place of an older file of that path: the payer's row, then a line per payee, at
-/// any number of payees in fixed memory. `written` is called behind each payee with their number so far.
-/// Returns that number.
-int writeWhFile(const QString &path, const WhHeading &heading, const Recordset &payer, Recordset &payees,
+/// Writes the salary list: the payer's row, then a line per payee, at any number of payees in fixed memory.
+/// `written` is called behind each payee with their number so far. Returns that number; the file takes the place
+/// of an older one only if it is `expected`, so that a month is filed with all its payees or not at all.
+int writeWhFile(const QString &path, const WhHeading &heading, const Recordset &payer, Recordset &payees, int expected,
                 const std::function<void(int)> &written);
 
 } // namespace zrv

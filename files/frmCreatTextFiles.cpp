@@ -173,13 +173,23 @@ void frmCreatTextFiles::createHogogFile()
         return;
     const int listed = Recordset(connection, u"SELECT * FROM ZRVtbHogog,ZRVtbKarkonan"_s + ofTheMonth()).recordCount();
     Recordset payees(connection, payeesStatement(ofTheMonth()));
-    if (!allPayeesComplete(listed, payees.recordCount()))
+    if (listed == 0 || payees.eof()) {
+        refuse(u" اطلاعات مربوط به ليست حقوق "_s + dcbTaxMonth.text()
+               + u" ماه سال مورد نظر ايجاد نشده است . ابتدا نسبت به ورود اطلاعات مذکور اقدام نماييد"_s);
         return;
+    }
 
     const MonthFiles files = monthFiles();
     files.ensureFolders();
     const WhHeading heading{txtTaxYear.text(), dcbTaxMonth.boundText(), m_program.ProgramVersion};
-    const int written = writeWhFile(files.wh, heading, payer, payees, [this](int count) { payeeWritten(count); });
+    // The complete payees are counted as they are written, which spares a second walk through the month; the file
+    // is given up when their number isn't that of the list.
+    const int written =
+        writeWhFile(files.wh, heading, payer, payees, listed, [this](int count) { payeeWritten(count); });
+    if (written != listed) {
+        refuseIncomplete(listed, written);
+        return;
+    }
     showProgress(written);
     drawNow();
 
@@ -208,15 +218,9 @@ bool frmCreatTextFiles::onePayer(int payers)
     return payers == 1;
 }
 
-bool frmCreatTextFiles::allPayeesComplete(int listed, int complete)
+void frmCreatTextFiles::refuseIncomplete(int listed, int complete)
 {
-    if (listed == 0 || complete == 0) {
-        refuse(u" اطلاعات مربوط به ليست حقوق "_s + dcbTaxMonth.text()
-               + u" ماه سال مورد نظر ايجاد نشده است . ابتدا نسبت به ورود اطلاعات مذکور اقدام نماييد"_s);
-        return false;
-    }
-    if (listed == complete)
-        return true;
+    LabelWaitingMessage.setCaption(WaitingText);
     // clang-format off
     refuse(u"کاربر گرامي،شما احتمالا اقدام به Import مستقيم اطلاعات به بانک اطلاعاتي Access برنامه جهت توليد فايلهاي متني نموده ايد."_s + LineEnd
            + u"در صورت استفاده از اين روش براي ايجاد فايلهاي متني مقدار دهي کليه فيلد هاي الزامي جدول دريافت کنندگان حقوق از قبيل : کد نوع استخدام،کد سمت يا شغل،کد رسته شغلي،کد مدرک تحصيلي،کد مليت،کد نوع معافيت مازاد بر ماده 84 و کد نوع بيمه و ساير فيلدهاي الزامي قيد شده در دفترچه راهنماي تهيه فايل الکترونيکي اجتناب ناپذير ميباشد.با در نظر گرفتن محتواي فعلي بانک اطلاعاتي شما تعداد اطلاعات قابل انتقال از بانک اطلاعاتي به فايل متني به شرح ذيل ميباشد: "_s + LineEnd
@@ -227,7 +231,6 @@ bool frmCreatTextFiles::allPayeesComplete(int listed, int complete)
            + u"جهت اطلاع از معتبر بودن کدهاي ملي پرداخت کنندگان حقوق،از دکمه (کنترل و نمايش محتوي فايلهاي الکترونيکي) واقع در فرم اصلي برنامه استفاده نماييد"_s,
            box::RefusalRtl);
     // clang-format on
-    return false;
 }
 
 // What is shown during a run ---------------------------------------------------------------------------------

@@ -59,7 +59,7 @@ private:
     void createHogogFile();
     [[nodiscard]] QString ofTheMonth() const;
     [[nodiscard]] bool onePayer(int payers);
-    [[nodiscard]] bool allPayeesComplete(int listed, int complete);
+    void refuseIncomplete(int listed, int complete);
     void refuse(const QString &text, int style = box::Refusal);
 
     void showWaitingMessage();

@@ -42,7 +42,14 @@ void RecordLines::addTrimmed(std::string_view value, int width)
     // A letter has at least as many bytes as units.
     const std::size_t most = width > 0 ? std::min(value.size(), static_cast<std::size_t>(width)) : value.size();
     char16_t *const begin = beginField(most);
-    endField(trim(begin, widen(value, begin, most)));
+    // Nearly all values are digits and Latin letters: nothing to trim, nothing to remove.
+    std::size_t plain = 0;
+    for (; plain<most &&static_cast<signed char>(value[plain])> ' '; ++plain)
+        begin[plain] = static_cast<unsigned char>(value[plain]);
+    if (plain == most)
+        m_used += most;
+    else
+        endField(trim(begin, widen(value, begin, most)));
 }
 
 void RecordLines::addPadded(std::string_view value, int width)
@@ -82,14 +89,6 @@ char16_t *RecordLines::beginField(std::size_t units)
 /// Writes at most so many units of the value and returns their end.
 char16_t *RecordLines::widen(std::string_view value, char16_t *out, std::size_t most)
 {
-    // Nearly all values are digits.
-    const std::size_t likely = std::min(value.size(), most);
-    std::size_t i = 0;
-    for (; i < likely && static_cast<signed char>(value[i]) >= 0; ++i)
-        out[i] = static_cast<unsigned char>(value[i]);
-    if (i == likely)
-        return out + likely;
-
     const auto bytes = static_cast<qsizetype>(value.size());
     m_decoded.resize(std::max(m_decoded.size(), static_cast<std::size_t>(m_decoder.requiredSpace(bytes))));
     auto *const letters = reinterpret_cast<QChar *>(m_decoded.data());

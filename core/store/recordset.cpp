@@ -124,9 +124,11 @@ int Recordset::columnIndex(QStringView name) const
 
 std::string_view Recordset::utf8(int column) const
 {
-    sqlite3_stmt *row = m_cursor->row(column);
-    const auto *text = reinterpret_cast<const char *>(sqlite3_column_text(row, column));
-    return text ? std::string_view(text, std::size_t(sqlite3_column_bytes(row, column))) : std::string_view();
+    // The store's connections are used by one thread, so a cell may be asked as it stands; through the row, text and
+    // length would each be looked up and checked anew.
+    sqlite3_value *cell = sqlite3_column_value(m_cursor->row(column), column);
+    const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(cell));
+    return text ? std::string_view(text, std::size_t(sqlite3_value_bytes(cell))) : std::string_view();
 }
 
 int Recordset::recordCount() const

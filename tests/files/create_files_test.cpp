@@ -5,6 +5,7 @@
 #include "core/forms/color.h"
 #include "tests/files/month_fixture.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace zrv {
@@ -237,6 +238,22 @@ TEST_P(IncompletePayee, StopsTheRunWhetherTheCodeIsUnknownEmptyOrMissing)
 INSTANTIATE_TEST_SUITE_P(Columns, IncompletePayee,
                          testing::Values("Semat", "KeshvarCode", "BimehType", "Madrak", "Rasteh", "ShakhsMoafCode",
                                          "EstekhdamType"));
+
+TEST_F(CreateFiles, IncompleteListLeavesTheOldFileAndNothingBesideIt)
+{
+    rows.addPayees(2000);
+    rows.addPayee({{u"Rasteh"_s, u"99"_s}});
+    open();
+    ASSERT_TRUE(QDir().mkpath(path(u"ERSAL/138902")));
+    write(whPath(), "old");
+    run();
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(platform.boxes[0].style, 0x190010);
+    EXPECT_EQ(bytes(whPath()), "old");
+    EXPECT_EQ(QDir(path(u"ERSAL/138902")).entryList(QDir::Files), (QStringList{u"WH138902.TXT"_s, u"WK138902.TXT"_s}));
+    EXPECT_EQ(screen->LabelHogogRecordsCount.caption(), u"0"_s);
+    EXPECT_EQ(screen->LabelWaitingMessage.caption(), Waiting);
+}
 
 TEST_F(CreateFiles, NationalWithoutACountryDropsOutAsAForeignerDoes)
 {

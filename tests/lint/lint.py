@@ -111,7 +111,8 @@ def may_include(here, there):
         return there == here[6:] or there in MAY_INCLUDE[here[6:]]
     if here.startswith("tests"):
         return True
-    return there in MAY_INCLUDE.get(here, ())
+    allowed = MAY_INCLUDE.get(here, ())
+    return there in allowed or there.startswith("tests/") and "tests" in allowed
 
 
 def layers(tree):
