@@ -74,7 +74,7 @@ private:
 
     void consider(const Source &source, bool inner, const std::vector<const Expression *> &on)
     {
-        if (source.query || m_pinned.count(source.alias.toLower()) > 0)
+        if (source.query || m_pinned.contains(source.alias.toLower()))
             return;
         const TableShape &table = tableOf(m_catalog, source.table);
         // A left join is decided by its own condition; an inner one by those of the whole statement.
@@ -113,7 +113,7 @@ private:
         if (!column)
             return false;
         const QString owner = ownerOf(*column).toLower();
-        return owner != source.alias.toLower() && m_replaced.count(owner) == 0;
+        return owner != source.alias.toLower() && !m_replaced.contains(owner);
     }
 
     std::optional<CodeLookup> byKey(const Source &source, const TableShape &table, const QStringList &key,

@@ -103,10 +103,10 @@ protected:
         return joined.rows;
     }
 
-    QString planOf(const QString &select)
+    QString planOf(const QString &select, CodeLists way = CodeLists::InMemory)
     {
         StoreFile file(path());
-        const dialect::Query query = translate(std::get<dialect::Select>(dialect::parse(select)), file);
+        const dialect::Query query = translate(std::get<dialect::Select>(dialect::parse(select)), file, way);
         const PreparedStatement plan = file.prepare("EXPLAIN QUERY PLAN "_L1 + query.sql);
         QString text;
         while (file.step(plan))
@@ -170,6 +170,16 @@ TEST_F(CodeLookups, JoinsOfAnotherKindStayJoins)
     compare(u"SELECT k.MelliCode,a.SDesc,b.SDesc FROM ZRVtbKarkonan k,ZRVtbCoding a,ZRVtbCoding b WHERE "
             "k.Madrak=a.SCode AND a.MCode='1' AND a.SCode=b.SCode AND b.MCode='10'"_s,
             1);
+}
+
+TEST_F(CodeLookups, JoinedTablesAreReadInTheOrderWrittenEvenWhereNoOrderIsNeeded)
+{
+    const QString count = "SELECT count(*) "_L1 + monthQuery().mid(monthQuery().indexOf("FROM ZRVtbHogog"_L1));
+    for (const QString &select : {monthQuery(), count}) {
+        const QString plan = planOf(select, CodeLists::Joined);
+        EXPECT_TRUE(plan.startsWith("SEARCH ZRVtbHogog USING"_L1)) << plan.toStdString();
+        EXPECT_FALSE(plan.contains("TEMP B-TREE"_L1)) << plan.toStdString();
+    }
 }
 
 TEST_F(CodeLookups, MonthIsReadByItsIndexAndNotSorted)
