@@ -95,6 +95,10 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         }
         break;
     case PE_FrameGroupBox:
+        // A flat group only holds the others of its screen.
+        if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+            frame && frame->features.testFlag(QStyleOptionFrame::Flat))
+            return;
         paintRounded(*painter, option->rect, 0.5, Radius + 2, QPen(option->palette.color(QPalette::Mid), 1),
                      option->palette.color(QPalette::Light));
         return;
@@ -156,12 +160,12 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
     case PM_LayoutHorizontalSpacing:
     case PM_LayoutVerticalSpacing:
         // Alike: a line in a grid takes its spacing from it only when both are.
-        return 7;
+        return 6;
     case PM_LayoutLeftMargin:
     case PM_LayoutRightMargin:
     case PM_LayoutTopMargin:
     case PM_LayoutBottomMargin:
-        return 12;
+        return 9;
     case PM_ButtonMargin:
         return 6;
     case PM_DefaultFrameWidth:
@@ -243,6 +247,12 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
     if (type == CT_PushButton)
         size.rwidth() = std::max(size.width() + 2 * option->fontMetrics.averageCharWidth(),
                                  option->fontMetrics.averageCharWidth() * 14);
+    // The font's line has room for vowel signs above and below that office texts never bear; a screen of many
+    // fields has not.
+    if (type == CT_PushButton || type == CT_LineEdit || type == CT_ComboBox) {
+        const int letters = option->fontMetrics.tightBoundingRect(u"\u0622\u06AF\u064A\u062C\u0639"_s).height();
+        size.setHeight(std::min(size.height(), letters + 12));
+    }
     return size;
 }
 

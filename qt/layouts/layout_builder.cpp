@@ -6,6 +6,7 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QGroupBox>
 #include <QLabel>
 
 namespace zrv {
@@ -64,23 +65,65 @@ QLayout *LayoutBuilder::table(int columns, Cells cells)
     return grid;
 }
 
-QLayout *LayoutBuilder::fields(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs,
-                               int pairsPerLine)
+QLayout *LayoutBuilder::fields(std::initializer_list<std::pair<const char16_t *, Cell>> pairs, int pairsPerLine)
 {
     auto *const grid = new QGridLayout;
     int place = 0;
-    for (const auto &[labelName, fieldName] : pairs) {
+    for (const auto &[labelName, field] : pairs) {
         QWidget *const label = widget(QString::fromUtf16(labelName));
-        QWidget *const field = widget(QString::fromUtf16(fieldName));
+        const int row = place / pairsPerLine;
         const int column = place % pairsPerLine * 2;
-        grid->addWidget(label, place / pairsPerLine, column);
-        grid->addWidget(field, place / pairsPerLine, column + 1);
+        grid->addWidget(label, row, column);
+        QWidget *named = field.widget;
+        if (field.layout) {
+            grid->addLayout(field.layout, row, column + 1);
+            named = field.layout->itemAt(0)->widget();
+        } else {
+            if (!named)
+                named = widget(field.name);
+            grid->addWidget(named, row, column + 1);
+        }
         grid->setColumnStretch(column + 1, 1);
-        if (auto *text = qobject_cast<QLabel *>(label); text && field->focusPolicy() != Qt::NoFocus)
-            text->setBuddy(field);
+        if (auto *text = qobject_cast<QLabel *>(label); text && named && named->focusPolicy() != Qt::NoFocus)
+            text->setBuddy(named);
         ++place;
     }
     return grid;
+}
+
+QLayout *LayoutBuilder::date(const char16_t *prefix)
+{
+    const QString begin = QString::fromUtf16(prefix);
+    auto *const box = new QHBoxLayout;
+    box->setDirection(QBoxLayout::LeftToRight);
+    const QFontMetrics metrics = m_window.fontMetrics();
+    for (const auto &[end, digits] : {std::pair{"_Year", 4}, std::pair{"_Month", 2}, std::pair{"_Day", 2}}) {
+        QWidget *const field = widget(begin + QLatin1String(end));
+        field->setMaximumWidth(metrics.horizontalAdvance(u'0') * (digits + 4));
+        box->addWidget(field);
+    }
+    return box;
+}
+
+LayoutBuilder::Cell LayoutBuilder::browse(const char16_t *grid, Cells extra)
+{
+    QLayout *const options = line({u"OptNormal", u"OptSort", u"OptSearch"});
+    options->setContentsMargins(0, 0, 0, 0);
+    auto *const head = static_cast<QBoxLayout *>(line({inside(u"PicOperation", options), u"chkAnd"}));
+    for (const Cell &cell : extra)
+        add(*head, cell);
+    head->addStretch(1);
+    add(*head, u"LabelGridCountCaption");
+    const Cell count = value(u"LabelGridCount");
+    count.widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    add(*head, count);
+    QLayout *const search =
+        line({u"lblSearch", wide(u"txtSearch"), u"cmdSearch", u"cmdCancel_Search", u"lstWord_Seperator"});
+    // A grid takes what is left, and stays readable where little is.
+    QWidget *const rows = widget(QString::fromUtf16(grid));
+    rows->setMinimumHeight(m_window.fontMetrics().height() * 9 / 2);
+    rows->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+    return inside(u"framBrows", column({head, search, wide(grid)}));
 }
 
 QLayout *LayoutBuilder::values(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs,
@@ -88,7 +131,15 @@ QLayout *LayoutBuilder::values(std::initializer_list<std::pair<const char16_t *,
 {
     for (const auto &pair : pairs)
         look::makeValue(*widget(QString::fromUtf16(pair.second)));
-    return fields(pairs, pairsPerLine);
+    auto *const grid = new QGridLayout;
+    int place = 0;
+    for (const auto &[label, value] : pairs) {
+        grid->addWidget(widget(QString::fromUtf16(label)), place / pairsPerLine, place % pairsPerLine * 2);
+        grid->addWidget(widget(QString::fromUtf16(value)), place / pairsPerLine, place % pairsPerLine * 2 + 1);
+        grid->setColumnStretch(place % pairsPerLine * 2 + 1, 1);
+        ++place;
+    }
+    return grid;
 }
 
 QLayout *LayoutBuilder::buttons(Cells cells)
@@ -111,6 +162,15 @@ LayoutBuilder::Cell LayoutBuilder::inside(const char16_t *container, QLayout *ce
     QWidget *const around = widget(QString::fromUtf16(container));
     around->setLayout(cells);
     return around;
+}
+
+LayoutBuilder::Cell LayoutBuilder::around(const char16_t *container, QLayout *cells)
+{
+    const Cell cell = inside(container, cells);
+    cells->setContentsMargins(0, 0, 0, 0);
+    if (auto *const box = qobject_cast<QGroupBox *>(cell.widget))
+        box->setFlat(true);
+    return cell;
 }
 
 LayoutBuilder::Cell LayoutBuilder::panel(QLayout *cells)

@@ -50,13 +50,21 @@ public:
     QLayout *line(Cells cells);
     QLayout *table(int columns, Cells cells);
     /// Labels with their fields, so many pairs to a line. The label names its field to screen readers.
-    QLayout *fields(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs, int pairsPerLine = 1);
+    QLayout *fields(std::initializer_list<std::pair<const char16_t *, Cell>> pairs, int pairsPerLine = 1);
+    /// The three boxes of a date, by what their names begin with: year, month and day from left to right, as dates
+    /// are written.
+    QLayout *date(const char16_t *prefix);
+    /// A record screen's grid with all that acts on it, in its container framBrows; `extra` are further cells of the
+    /// line above the grid.
+    Cell browse(const char16_t *grid, Cells extra = {});
     /// The same with labels that show a value instead of fields.
     QLayout *values(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs, int pairsPerLine = 1);
     /// Buttons of one width at the leading side of their line.
     QLayout *buttons(Cells cells);
     /// Cells laid out in the widget of a container.
     Cell inside(const char16_t *container, QLayout *cells);
+    /// The same for a container that needs no frame drawn: the one that holds all others, a row of buttons.
+    Cell around(const char16_t *container, QLayout *cells);
     /// Cells on a panel of their own, without a control behind it.
     Cell panel(QLayout *cells);
     /// Cells in the middle of the window, no wider than they ask for.

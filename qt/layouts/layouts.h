@@ -16,5 +16,11 @@ void layOutMain(LayoutBuilder &b);
 void layOutAbout(LayoutBuilder &b);
 void layOutEncodeDecode(LayoutBuilder &b);
 void layOutCreatTextFiles(LayoutBuilder &b);
+void layOutCodingCalls(LayoutBuilder &b);
+void layOutCoding(LayoutBuilder &b);
+void layOutUser_Defination(LayoutBuilder &b);
+void layOutKarfarma(LayoutBuilder &b);
+void layOutKarkonan(LayoutBuilder &b);
+void layOutSrcKarkonan(LayoutBuilder &b);
 
 } // namespace zrv
