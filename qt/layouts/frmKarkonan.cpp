@@ -7,7 +7,7 @@ namespace zrv {
 void layOutKarkonan(LayoutBuilder &b)
 {
     // clang-format off
-    b.atLeast(122, 0);
+    b.atLeast(120, 0);
     b.fill(b.column({b.wide(b.around(u"framAll", b.column({
         b.inside(u"framKey", b.column({
             b.line({u"lblTabeiat", u"optIrani", u"optKhareji", b.fields({{u"lblMelliCode", u"txtMelliCode"}}),
@@ -24,7 +24,8 @@ void layOutKarkonan(LayoutBuilder &b)
             }, 3),
             b.fields({{u"lblHomeAddress", u"txtHomeAddress"}, {u"lblShakhsMoafCode", u"dcbShakhsMoafCode"}}, 2),
             b.line({u"lblBeginDate", b.date(u"txtBeginDate"), u"lblEndDate", b.date(u"txtEndDate"), b.room(),
-                    u"txtRastehSayer", u"txtMoafiatTozih", b.buttons({u"cmdDataOk", u"cmdDataReturn"})}),
+                    b.buttons({u"cmdDataOk", u"cmdDataReturn"})}),
+            b.line({u"txtRastehSayer", u"txtMoafiatTozih"}),
         })),
         b.wide(b.browse(u"dbgLetter_Topic", {u"chkAutoSearch"})),
         b.around(u"picButtons", b.buttons({u"cmdDelete", u"cmdExit"})),

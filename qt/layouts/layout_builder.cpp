@@ -116,6 +116,7 @@ LayoutBuilder::Cell LayoutBuilder::browse(const char16_t *grid, Cells extra)
     add(*head, u"LabelGridCountCaption");
     const Cell count = value(u"LabelGridCount");
     count.widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    count.widget->setMinimumWidth(m_window.fontMetrics().averageCharWidth() * 8);
     add(*head, count);
     QLayout *const search =
         line({u"lblSearch", wide(u"txtSearch"), u"cmdSearch", u"cmdCancel_Search", u"lstWord_Seperator"});
