@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tests/print_text.h"
 #include "tools/zrvstore/create.h"
 #include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/store_folder.h"
