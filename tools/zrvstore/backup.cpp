@@ -104,7 +104,7 @@ public:
             const bool isLast = sqlite3_backup_remaining(m_backup) <= Share || m_restarts > MostRestarts;
             if (isLast)
                 m_source.run(u"BEGIN"_s);
-            const RowCounts counts = isLast ? rowCounts(m_source) : RowCounts();
+            RowCounts counts = isLast ? rowCounts(m_source) : RowCounts();
             const int remaining = sqlite3_backup_remaining(m_backup);
             const bool isDone = step(isLast && m_restarts > MostRestarts ? -1 : Share);
             if (isLast)

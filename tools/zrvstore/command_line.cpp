@@ -93,7 +93,7 @@ const CommandName &commandNamed(const QString &word)
 /// Reads the option at `next` with its value, "--user U" or "--user=U", and moves behind it.
 void readOption(Request &request, const QStringList &words, qsizetype &next)
 {
-    const QString word = words[next++];
+    const QString &word = words[next++];
     const qsizetype equals = word.indexOf(u'=');
     const QString name = word.left(equals);
     const auto option = std::ranges::find_if(Options, [&](const Option &candidate) {
