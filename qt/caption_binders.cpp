@@ -1,52 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/caption_binders.h"
 
+#include "qt/caption_label.h"
 #include "qt/form_window.h"
 
 #include <QEvent>
-#include <QLabel>
-#include <QPainter>
 #include <QStatusBar>
-#include <QStyle>
 
 namespace zrv {
-
-namespace {
-
-/// A path or a code: read from left to right, and cut in its middle where the window is too narrow for it.
-class CodeLabel : public QLabel {
-public:
-    explicit CodeLabel(QWidget *parent)
-        : QLabel(parent)
-    {
-        setLayoutDirection(Qt::LeftToRight);
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
-
-protected:
-    void paintEvent(QPaintEvent *event) override
-    {
-        Q_UNUSED(event);
-        QPainter painter(this);
-        drawFrame(&painter);
-        const QRect room = contentsRect().adjusted(margin() + 4, 0, -margin() - 4, 0);
-        const int flags =
-            Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine | Qt::TextForceLeftToRight;
-        style()->drawItemText(&painter, room, flags, palette(), isEnabled(),
-                              fontMetrics().elidedText(text(), Qt::ElideMiddle, room.width()), foregroundRole());
-    }
-};
-
-} // namespace
 
 LabelBinder::LabelBinder(Label &label, FormWindow &window)
     : Binder(label, window)
     , m_label(label)
-    , m_widget(label.isLeftToRight() ? new CodeLabel(window.groundOf(label.container()))
-                                     : new QLabel(window.groundOf(label.container())))
+    , m_widget(new CaptionLabel(label.isLeftToRight(), window.groundOf(label.container())))
 {
     adopt(*m_widget);
-    m_widget->setTextFormat(Qt::PlainText);
 }
 
 QWidget *LabelBinder::widget() const
@@ -75,7 +43,7 @@ bool LabelBinder::special(QEvent &event)
 StatusPanelBinder::StatusPanelBinder(StatusPanel &panel, FormWindow &window)
     : Binder(panel, window)
     , m_panel(panel)
-    , m_widget(new QLabel)
+    , m_widget(new CaptionLabel(false, nullptr))
 {
     adopt(*m_widget);
     m_widget->setTextFormat(Qt::PlainText);

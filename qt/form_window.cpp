@@ -2,6 +2,7 @@
 #include "qt/form_window.h"
 
 #include "qt/binder.h"
+#include "qt/caption_label.h"
 #include "qt/keyboard.h"
 #include "qt/layouts/layouts.h"
 #include "qt/look.h"
@@ -25,19 +26,14 @@ FormWindow::FormWindow(Form &form, QtPlatform &platform, QWidget *parent)
     : QWidget(parent, Qt::Window)
     , m_form(form)
     , m_platform(platform)
-    , m_scroll(new QScrollArea(this))
-    , m_ground(new look::Ground)
+    , m_ground(new look::Ground(this))
 {
     setObjectName(form.name());
     setWindowModality(Qt::ApplicationModal);
     auto *const outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->setSpacing(0);
-    m_scroll->setFrameShape(QFrame::NoFrame);
-    m_scroll->setWidgetResizable(true);
-    m_scroll->setFocusPolicy(Qt::NoFocus);
-    m_scroll->setWidget(m_ground);
-    outer->addWidget(m_scroll);
+    outer->addWidget(m_ground, 1);
     makeBinders();
     layOut(*this);
     for (Control *control : form.controls())
@@ -52,6 +48,7 @@ FormWindow::~FormWindow()
     // Widgets that go still tell of pages and rows that go; nobody is to hear that, and the binders must outlive it.
     m_leaving = true;
     delete m_scroll;
+    delete m_ground;
 }
 
 void FormWindow::makeBinders()
@@ -160,7 +157,7 @@ void FormWindow::syncFocus()
         return;
     if (wanted) {
         wanted->setFocus(Qt::OtherFocusReason);
-        if (m_scroll->verticalScrollBar()->isVisible() && m_ground->isAncestorOf(wanted))
+        if (m_scroll && m_ground->isAncestorOf(wanted))
             m_scroll->ensureWidgetVisible(wanted);
     } else {
         now->clearFocus();
@@ -291,15 +288,36 @@ QSize FormWindow::groundSize() const
 void FormWindow::fit()
 {
     const QSize room = screen()->availableSize() - QSize(8, 40); // what a window manager draws around it
-    const QSize wanted = groundSize();
-    ensurePolished();
+    QSize wanted = groundSize();
+    if (wanted.width() > room.width()) {
+        for (const Control *control : m_form.controls())
+            if (auto *label = dynamic_cast<CaptionLabel *>(widgetFor(*control)))
+                label->setWordWrap(label->wordWrap() || label->isCentred());
+        m_ground->setMinimumWidth(0);
+        wanted = groundSize();
+    }
     resize(wanted.boundedTo(room));
     layout()->activate();
-    // What the bars have taken is given back. A window that is cut in height needs room for the bar that scrolls it.
-    QSize missing = wanted - m_scroll->size();
-    if (height() + missing.height() > room.height())
+    // What the bars have taken is given back.
+    QSize missing = wanted - m_ground->size();
+    if (height() + missing.height() > room.height()) {
+        scroll();
         missing.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
+    }
     resize((size() + missing).boundedTo(room));
+}
+
+/// Only a screen that is too high for its display lies in an area that scrolls: making one takes its time.
+void FormWindow::scroll()
+{
+    auto *const outer = static_cast<QVBoxLayout *>(layout());
+    outer->removeWidget(m_ground);
+    m_scroll = new QScrollArea(this);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll->setWidget(m_ground);
+    outer->insertWidget(0, m_scroll, 1);
 }
 
 void FormWindow::open()

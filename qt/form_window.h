@@ -76,6 +76,7 @@ private:
     void watch(Binder &binder);
     [[nodiscard]] QSize groundSize() const;
     void fit();
+    void scroll();
     bool keyPressed(Binder *binder, const QKeyEvent &event);
     bool watchedEvent(Binder &binder, QObject *object, QEvent &event);
 

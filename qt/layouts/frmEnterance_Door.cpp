@@ -7,7 +7,7 @@ namespace zrv {
 void layOutEnterance_Door(LayoutBuilder &b)
 {
     // clang-format off
-    b.atLeast(80, 0);
+    b.atLeast(72, 0);
     b.fill(b.column({
         b.heading(u"LabelFormHeader"),
         b.note(u"Label1"),

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/caption_label.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace zrv {
+
+CaptionLabel::CaptionLabel(bool leftToRight, QWidget *parent)
+    : QLabel(parent)
+    , m_leftToRight(leftToRight)
+{
+    setTextFormat(Qt::PlainText);
+    if (leftToRight) {
+        setLayoutDirection(Qt::LeftToRight);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+}
+
+void CaptionLabel::setScale(double scale)
+{
+    m_scale = scale;
+    updateGeometry();
+}
+
+void CaptionLabel::setCentred()
+{
+    m_centred = true;
+    setAlignment(Qt::AlignCenter);
+}
+
+bool CaptionLabel::isOneLine() const
+{
+    return !wordWrap() && !text().contains(u'\n');
+}
+
+const QTextLayout &CaptionLabel::shaped() const
+{
+    if (m_shaped.lineCount() == 0 || m_shaped.text() != text() || m_shaped.font() != font()) {
+        QTextOption option;
+        option.setTextDirection(m_leftToRight ? Qt::LeftToRight : Qt::RightToLeft);
+        option.setWrapMode(QTextOption::NoWrap);
+        m_shaped.setText(text());
+        m_shaped.setFont(font());
+        m_shaped.setTextOption(option);
+        m_shaped.setCacheEnabled(true);
+        m_shaped.beginLayout();
+        m_shaped.createLine();
+        m_shaped.endLayout();
+    }
+    return m_shaped;
+}
+
+QSize CaptionLabel::lineSize() const
+{
+    const int around = 2 * (frameWidth() + margin());
+    const double width = text().isEmpty() ? 0 : shaped().lineAt(0).naturalTextWidth();
+    return {static_cast<int>(std::ceil(width * m_scale)) + around + 2 * std::max(0, indent()),
+            static_cast<int>(std::ceil(fontMetrics().height() * m_scale)) + around};
+}
+
+QSize CaptionLabel::sizeHint() const
+{
+    // A heading that has to wrap is measured unscaled; that is only the narrow display's case.
+    return isOneLine() ? lineSize() : QLabel::sizeHint();
+}
+
+QSize CaptionLabel::minimumSizeHint() const
+{
+    if (m_leftToRight)
+        return {0, lineSize().height()};
+    return isOneLine() ? lineSize() : QLabel::minimumSizeHint();
+}
+
+void CaptionLabel::paintEvent(QPaintEvent *event)
+{
+    if (!isOneLine()) {
+        QLabel::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    drawFrame(&painter);
+    if (text().isEmpty())
+        return;
+    const int side = margin() + std::max(0, indent());
+    const QRectF room = contentsRect().adjusted(side, 0, -side, 0);
+    const QTextLine line = shaped().lineAt(0);
+    const double width = line.naturalTextWidth() * m_scale;
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
+    if (m_leftToRight && width > room.width()) {
+        const QString cut = fontMetrics().elidedText(text(), Qt::ElideMiddle, static_cast<int>(room.width()));
+        painter.drawText(room, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextForceLeftToRight, cut);
+        return;
+    }
+    // A line of open width begins at the left whatever its direction.
+    const double left = m_centred ? room.center().x() - width / 2 : room.right() - width;
+    painter.translate(left, room.center().y() - line.height() * m_scale / 2);
+    painter.scale(m_scale, m_scale);
+    shaped().draw(&painter, QPointF(-line.naturalTextRect().left(), 0));
+}
+
+} // namespace zrv
