@@ -40,7 +40,7 @@ QStringList cellsOf(sqlite3_stmt *row, int columns)
 
 } // namespace
 
-RowWindow::RowWindow(QString connectionString, QString select)
+RowWindow::RowWindow(QString connectionString, const QString &select)
     : m_connectionString(std::move(connectionString))
 {
     const Connection connection(m_connectionString);

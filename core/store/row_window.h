@@ -16,7 +16,7 @@ namespace zrv {
 class RowWindow {
 public:
     /// Runs the query once. Raises the store's errors.
-    RowWindow(QString connectionString, QString select);
+    RowWindow(QString connectionString, const QString &select);
 
     [[nodiscard]] int rowCount() const { return static_cast<int>(m_ids.empty() ? m_rows.size() : m_ids.size()); }
     /// Row and column from 0. NULL gives the empty text.
