@@ -20,7 +20,7 @@ QString fileText(const QString &path)
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         throw ScenarioError(path + u": the scenario can't be read"_s);
     QStringDecoder fromUtf8(QStringDecoder::Utf8);
-    const QString text = fromUtf8(file.readAll());
+    QString text = fromUtf8(file.readAll());
     if (fromUtf8.hasError())
         throw ScenarioError(path + u": the scenario is no UTF-8 text"_s);
     return text;

@@ -82,7 +82,7 @@ std::optional<QString> ScriptedPlatform::openFileDialog(const QString &folder, c
     Q_UNUSED(filter);
     if (files.empty())
         throw LineFailed{u"no file is ready for the file dialogue in "_s + quotedWord(folder)};
-    const std::optional<QString> chosen = files.front();
+    std::optional<QString> chosen = files.front();
     files.pop_front();
     m_transcript.line(u"file-dialog "_s + quotedWord(folder) + u" -> "_s + quotedWord(chosen.value_or(QString())));
     return chosen;
@@ -96,7 +96,7 @@ void ScriptedPlatform::viewFile(const QString &path)
 QString ScriptedPlatform::desktopFolder()
 {
     // A desktop is there before any program; nobody has to make it.
-    const QString folder = m_folder + u"/Desktop"_s;
+    QString folder = m_folder + u"/Desktop"_s;
     QDir().mkpath(folder);
     return folder;
 }
