@@ -101,4 +101,15 @@ void Combo::insert(const QString &letters)
     Edit::insert(letters);
 }
 
+void Combo::erase(bool backwards)
+{
+    Edit::erase(backwards);
+    setText(admitted(text()));
+}
+
+QString Combo::admitted(const QString &text) const
+{
+    return m_listOnly && rowWithText(text) < 0 ? QString() : text;
+}
+
 } // namespace zrv

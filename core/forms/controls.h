@@ -163,6 +163,9 @@ public:
     void setBoundText(const QString &code);
 
     void insert(const QString &letters) override;
+    void erase(bool backwards) override;
+    /// What a text that isn't whole becomes where only the rows' texts are taken: nothing.
+    [[nodiscard]] QString admitted(const QString &text) const;
     [[nodiscard]] bool isListOnly() const { return m_listOnly; }
 
 protected:

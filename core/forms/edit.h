@@ -33,7 +33,7 @@ public:
     /// Puts letters in place of the selection as far as the limit allows, the way a user's typing does.
     virtual void insert(const QString &letters);
     /// Removes the selection, or the letter before (behind) the caret.
-    void erase(bool backwards);
+    virtual void erase(bool backwards);
 
     std::function<void()> onChange;
 

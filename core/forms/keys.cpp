@@ -100,8 +100,10 @@ bool Form::userPaste(const QString &text)
 
 void Form::userEdited(Edit &edit, const QString &text, qsizetype caret)
 {
-    if (accepts(edit) && !edit.isLocked())
-        carryOut([&] { edit.assign(text, caret); });
+    if (!accepts(edit) || edit.isLocked())
+        return;
+    const auto *const combo = dynamic_cast<const Combo *>(&edit);
+    carryOut([&] { edit.assign(combo ? combo->admitted(text) : text, caret); });
 }
 
 bool Form::userKey(Key key)

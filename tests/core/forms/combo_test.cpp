@@ -100,5 +100,22 @@ TEST(Combo, ListOnlyTakesNoTextThatIsNoRows)
     EXPECT_EQ(form.kinds.text(), u"alpha"_s);
 }
 
+TEST(Combo, ListOnlyIsEmptiedByWhatLeavesHalfARow)
+{
+    struct : ComboForm {
+        ComboBox kinds{*this, u"cmbKind"_s, {.listOnly = true}};
+    } form;
+    form.kinds.setItems({{u"alpha"_s, u"1"_s}});
+    form.userFocus(form.kinds);
+    type(form, u"al"_s);
+    form.userKey(Key::Backspace);
+    EXPECT_EQ(form.kinds.text(), QString());
+    type(form, u"a"_s);
+    form.userEdited(form.kinds, u"alp"_s, 3);
+    EXPECT_EQ(form.kinds.text(), QString());
+    form.userEdited(form.kinds, u"alpha"_s, 5);
+    EXPECT_EQ(form.kinds.boundText(), u"1"_s);
+}
+
 } // namespace
 } // namespace zrv
