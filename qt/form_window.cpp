@@ -33,6 +33,8 @@ FormWindow::FormWindow(Form &form, QtPlatform &platform, QWidget *parent)
     auto *const outer = new QVBoxLayout(this);
     outer->setContentsMargins(0, 0, 0, 0);
     outer->setSpacing(0);
+    // The window may be smaller than what lies in it: then that scrolls.
+    outer->setSizeConstraint(QLayout::SetNoConstraint);
     outer->addWidget(m_ground, 1);
     makeBinders();
     layOut(*this);
@@ -47,8 +49,7 @@ FormWindow::~FormWindow()
     m_form.setView(nullptr);
     // Widgets that go still tell of pages and rows that go; nobody is to hear that, and the binders must outlive it.
     m_leaving = true;
-    delete m_scroll;
-    delete m_ground;
+    delete (m_scroll ? static_cast<QWidget *>(m_scroll) : m_ground);
 }
 
 void FormWindow::makeBinders()
@@ -296,15 +297,18 @@ void FormWindow::fit()
         m_ground->setMinimumWidth(0);
         wanted = groundSize();
     }
-    resize(wanted.boundedTo(room));
-    layout()->activate();
-    // What the bars have taken is given back.
-    QSize missing = wanted - m_ground->size();
-    if (height() + missing.height() > room.height()) {
+    int bars = 0;
+    for (const QWidget *bar : {static_cast<QWidget *>(m_menuBar), static_cast<QWidget *>(m_statusBar)})
+        bars += bar ? bar->sizeHint().height() : 0;
+    if (wanted.height() + bars > room.height()) {
         scroll();
-        missing.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
+        wanted.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
     }
-    resize((size() + missing).boundedTo(room));
+    resize((wanted + QSize(0, bars)).boundedTo(room));
+    layout()->activate();
+    // A bar may have taken a little more than it asked for.
+    const QWidget &body = m_scroll ? static_cast<QWidget &>(*m_scroll) : *m_ground;
+    resize((size() + wanted - body.size()).boundedTo(room));
 }
 
 /// Only a screen that is too high for its display lies in an area that scrolls: making one takes its time.

@@ -12,7 +12,7 @@
 int main(int argc, char *argv[])
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" ZRV_SOURCE_DIR "/tests/qt/display_1024.json");
     testing::InitGoogleTest(&argc, argv);
     QStandardPaths::setTestModeEnabled(true);
     QApplication application(argc, argv);
