@@ -17,7 +17,7 @@ class ReadScenario : public testing::Test {
 protected:
     QString write(const QString &name, const QByteArray &text)
     {
-        const QString path = m_folder.filePath(name);
+        QString path = m_folder.filePath(name);
         QDir().mkpath(QFileInfo(path).path());
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
