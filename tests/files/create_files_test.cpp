@@ -137,6 +137,20 @@ TEST_F(CreateFiles, EmptyMonthIsRefusedAndGetsTheFocus)
     EXPECT_FALSE(QFileInfo::exists(path(u"ERSAL")));
 }
 
+TEST_F(CreateFiles, EmptyYearIsRefusedToo)
+{
+    open();
+    chooseMonth(u"02"_s);
+    screen->userFocus(screen->cmdCreatTextFiles);
+    screen->txtTaxYear.setText(QString());
+    screen->userClick(screen->cmdCreatTextFiles);
+    ASSERT_EQ(platform.boxes.size(), 1u);
+    EXPECT_EQ(screen->txtTaxYear.backColor(), color::RequiredEmpty);
+    // The focus comes to the field, whose enter rule fills it again.
+    EXPECT_EQ(screen->activeControl(), &screen->txtTaxYear);
+    EXPECT_EQ(screen->txtTaxYear.text(), u"1389"_s);
+}
+
 TEST_F(CreateFiles, MonthWithoutASummaryListMakesNothingNotEvenTheFolders)
 {
     rows.addPayee();
@@ -406,7 +420,7 @@ TEST_F(CreateFiles, QuoteInTheYearReachesTheErrorBoxAndNoFile)
     rows.addPayee();
     open();
     chooseMonth(u"02"_s);
-    screen->txtTaxYear.setText(u"13'9"_s);
+    screen->txtTaxYear.setText(u"1389' OR '1'='1"_s);
     screen->userClick(screen->cmdCreatTextFiles);
     ASSERT_EQ(platform.boxes.size(), 1u);
     EXPECT_EQ(platform.boxes[0].title, u"اخطار"_s);
