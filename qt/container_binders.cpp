@@ -33,7 +33,9 @@ protected:
         if (!m_picture.children().empty())
             return;
         QPainter painter(this);
-        look::paintMark(painter, rect());
+        QRect mark(QPoint(), sizeHint().boundedTo(size()));
+        mark.moveCenter(rect().center());
+        look::paintMark(painter, mark);
     }
 
 private:

@@ -20,10 +20,25 @@
 #include <QStatusBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace zrv {
 
+namespace {
+
+/// The main form is a window of its own right, with a menu and a size that its user chooses; a screen over it is a
+/// dialogue, which window managers keep above it. The login has nothing to lie above.
+Qt::WindowFlags windowKind(const Form &form, const QWidget *parent)
+{
+    const bool hasMenu = std::ranges::any_of(
+        form.controls(), [](const Control *control) { return control->kind() == ControlKind::MenuItem; });
+    return parent && !hasMenu ? Qt::Dialog : Qt::Window;
+}
+
+} // namespace
+
 FormWindow::FormWindow(Form &form, QtPlatform &platform, QWidget *parent)
-    : QWidget(parent, Qt::Window)
+    : QWidget(parent, windowKind(form, parent))
     , m_form(form)
     , m_platform(platform)
     , m_ground(new look::Ground(this))

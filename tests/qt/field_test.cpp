@@ -132,6 +132,18 @@ TEST(FieldEdit, ADropOnAFieldWithoutFocusBringsItTheFocus)
     EXPECT_EQ(shown.form.free.text(), u"abc"_s);
 }
 
+TEST(FieldEdit, AMiddleClickBringsTheSelectionThroughTheFilter)
+{
+    if (!QGuiApplication::clipboard()->supportsSelection())
+        GTEST_SKIP() << "this platform has no selection to paste from";
+    Shown<FieldForm> shown;
+    QLineEdit &line = shown.line(shown.form.digits);
+    QGuiApplication::clipboard()->setText(u"a1b2"_s, QClipboard::Selection);
+    QTest::mouseClick(&line, Qt::MiddleButton);
+    EXPECT_EQ(shown.form.digits.text(), u"12"_s);
+    EXPECT_EQ(line.text(), u"12"_s);
+}
+
 TEST(FieldEdit, AnAreaFiltersWhatIsTypedPastedAndDropped)
 {
     Shown<FieldForm> shown;
