@@ -55,9 +55,11 @@ const QTextLayout &CaptionLabel::shaped() const
 QSize CaptionLabel::lineSize() const
 {
     const int around = 2 * (frameWidth() + margin());
+    const QMargins margins = contentsMargins();
     const double width = text().isEmpty() ? 0 : shaped().lineAt(0).naturalTextWidth();
-    return {static_cast<int>(std::ceil(width * m_scale)) + around + 2 * std::max(0, indent()),
-            static_cast<int>(std::ceil(fontMetrics().height() * m_scale)) + around};
+    return {static_cast<int>(std::ceil(width * m_scale)) + around + margins.left() + margins.right()
+                + 2 * std::max(0, indent()),
+            static_cast<int>(std::ceil(fontMetrics().height() * m_scale)) + around + margins.top() + margins.bottom()};
 }
 
 QSize CaptionLabel::sizeHint() const
