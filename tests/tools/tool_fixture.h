@@ -17,6 +17,10 @@
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
+#ifndef ZRVSTORE
+#define ZRVSTORE "zrvstore" // the one on the path, where a test isn't told of another
+#endif
+
 namespace zrv::storetool {
 
 using namespace Qt::Literals::StringLiterals;
