@@ -147,16 +147,22 @@ private:
     QString m_sign;
 };
 
-using KilledRunDeathTest = FailingRun;
+class KilledRunDeathTest : public FailingRun {
+protected:
+    void killRunAt(int payees)
+    {
+        const auto killed = [&] {
+            const KillAt kill(*screen, payees);
+            screen->userClick(screen->cmdCreatTextFiles);
+        };
+        EXPECT_EXIT(killed(), testing::KilledBySignal(SIGKILL), "");
+    }
+};
 
 TEST_F(KilledRunDeathTest, LeavesTheOldFileAndTheNextRunClearsUp)
 {
     runBefore();
-    const auto killed = [&] {
-        KillAt kill(*screen, 1000);
-        screen->userClick(screen->cmdCreatTextFiles);
-    };
-    EXPECT_EXIT(killed(), testing::KilledBySignal(SIGKILL), "");
+    killRunAt(1000);
     EXPECT_GT(bytes(whPath() + u".tmp"_s).size(), 100'000);
     expectFilesOfTheRunBefore();
 
