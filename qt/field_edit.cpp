@@ -129,7 +129,6 @@ bool FieldEdit::keepsKey(const QKeyEvent &event)
     case Qt::Key_Home:
     case Qt::Key_End:
     case Qt::Key_Insert:
-        return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
     case Qt::Key_Delete:
         return event.modifiers() & (Qt::ShiftModifier | Qt::ControlModifier);
     case Qt::Key_Paste:

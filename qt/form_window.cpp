@@ -55,7 +55,7 @@ FormWindow::FormWindow(Form &form, QtPlatform &platform, QWidget *parent)
     layOut(*this);
     for (Control *control : form.controls())
         binderOf(*control).refreshAll();
-    captionChanged();
+    setWindowTitle(form.caption());
     form.setView(this);
 }
 
