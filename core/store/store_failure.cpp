@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store/store_failure.h"
 
+#include "core/store/column_labels.h"
 #include "core/store/dialect/sql_text.h"
 #include "core/store/store_error.h"
 
@@ -41,8 +42,12 @@ RunTimeError tooLong(const QString &message)
     const QRegularExpressionMatch match = check.match(message);
     if (!match.hasMatch())
         return {store_error::General, message};
-    return {store_error::ValueTooLong, u"مقدار فيلد «"_s + match.captured(1) + u"» از طول مجاز آن ( "_s
-                                           + match.captured(2) + u" حرف ) بلندتر است . مقدار را کوتاه نماييد"_s};
+    const QString column = match.captured(1);
+    const QString label = columnLabel(column);
+    const QString named =
+        label.isEmpty() ? QString(u'«' + column + u'»') : QString(u'«' + label + u"» ("_s + column + u')');
+    return {store_error::ValueTooLong, u"مقدار فيلد "_s + named + u" از طول مجاز آن ( "_s + match.captured(2)
+                                           + u" حرف ) بلندتر است . مقدار را کوتاه نماييد"_s};
 }
 
 } // namespace

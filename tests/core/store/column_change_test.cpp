@@ -103,4 +103,11 @@ TEST_F(ColumnChange, TableIsCreatedOnce)
     EXPECT_EQ(errorOf(u"ALTER TABLE Notes ADD COLUMN x INTEGER"_s), store_error::Syntax);
 }
 
+TEST_F(ColumnChange, TooLongAValueIsToldInTheWordsOfItsScreen)
+{
+    EXPECT_TRUE(error(u"INSERT INTO ZRVtbKarfarma (TFN,CodeShobe) VALUES ('1','123456')"_s)
+                    .description()
+                    .contains(u"«کد شعبه» (CodeShobe)"_s));
+}
+
 } // namespace zrv
