@@ -122,6 +122,15 @@ void RecordScreen::showValue(QStringView column, const QString &stored)
         field.setText(stored);
 }
 
+void RecordScreen::recordIsShown()
+{
+    for (Control *control : controls()) {
+        auto *const field = dynamic_cast<Edit *>(control);
+        if (field && field->backColor() == color::RequiredEmpty && !field->text().trimmed().isEmpty())
+            field->setBackColor(color::DataField);
+    }
+}
+
 bool RecordScreen::confirmDelete()
 {
     return messageBox(box::AskYesNo, u"                       حذف "_s, u"  آيا  مطمئن  هستيد ؟"_s) == Answer::Yes;

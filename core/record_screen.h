@@ -31,6 +31,9 @@ protected:
     [[nodiscard]] QString valueOf(QStringView column) const;
     /// Shows a stored value: a text, or the row of a list that has this code.
     void showValue(QStringView column, const QString &stored);
+    /// The last step of showing a record: a field that a rule opened as required, and that the record filled, is no
+    /// longer asked for.
+    void recordIsShown();
 
     /// The question before a record is deleted.
     bool confirmDelete();

@@ -291,6 +291,7 @@ void frmKarfarma::showRecord()
                    u" بيش از يک پرداخت کننده حقوق در جدول مربوطه تعريف گرديده است.لطفا با برنامه نويس تماس بگيريد "_s);
     for (const auto column : DataColumns)
         showValue(column, payer.value(column).toText());
+    recordIsShown();
 }
 
 void frmKarfarma::backToKey()

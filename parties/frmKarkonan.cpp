@@ -226,6 +226,7 @@ void frmKarkonan::showRecord(const Recordset &payee)
             else
                 showValue(column, stored);
         }
+        recordIsShown();
     }
     txtName.selectAll();
     // One search for both names, once all is shown.
