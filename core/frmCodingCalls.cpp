@@ -7,10 +7,20 @@
 
 namespace zrv {
 
+namespace {
+
+// The note speaks of the two frames by their colours.
+constexpr Color FixedLists = 0xC62828;
+constexpr Color OwnLists = 0x1565C0;
+
+} // namespace
+
 frmCodingCalls::frmCodingCalls(Program &program)
     : RecordScreen(program, u"frmCodingCalls"_s)
 {
     setCaption(lblForm.caption());
+    framFixed.setTextColor(FixedLists);
+    framOwn.setTextColor(OwnLists);
     struct Opens {
         Button &button;
         QString list;

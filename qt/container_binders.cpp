@@ -3,6 +3,7 @@
 
 #include "qt/form_window.h"
 #include "qt/look.h"
+#include "qt/style.h"
 
 #include <QGroupBox>
 #include <QPainter>
@@ -67,10 +68,16 @@ QWidget *FrameBinder::widget() const
 
 void FrameBinder::refresh(Aspect aspect)
 {
-    if (aspect == Aspect::Caption && m_box)
+    if (aspect == Aspect::Caption && m_box) {
         m_box->setTitle(m_frame.caption());
-    else if (aspect != Aspect::Visible || m_box)
+    } else if (aspect == Aspect::Colors && m_box) {
+        // A frame's colour is its line's. A palette would hand it on to all that lies inside.
+        if (m_frame.textColor() != color::Text)
+            m_box->setProperty(FrameLineColor, QColor(m_frame.textColor()));
+        m_box->update();
+    } else if (aspect != Aspect::Visible || m_box) {
         Binder::refresh(aspect); // Which page is seen is the tab widget's.
+    }
 }
 
 PictureBinder::PictureBinder(Picture &picture, FormWindow &window)

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
+#include <QVariant>
+#include <QWidget>
 
 namespace zrv {
 
@@ -32,6 +34,14 @@ void paintBody(QPainter &painter, const QStyleOption &option, const QColor &grou
     const QColor line = option.palette.color(focused ? QPalette::Highlight : QPalette::Mid);
     const double width = focused ? 2 : 1;
     paintRounded(painter, option.rect, width / 2, Radius, QPen(line, width), ground);
+}
+
+/// A group's ground and line; the line of a colour that a screen chose is the thicker one.
+void paintGroup(QPainter &painter, const QStyleOption &option, const QWidget *widget)
+{
+    const QVariant chosen = widget ? widget->property(FrameLineColor) : QVariant();
+    const QPen line = chosen.isValid() ? QPen(chosen.value<QColor>(), 2) : QPen(option.palette.color(QPalette::Mid), 1);
+    paintRounded(painter, option.rect, line.widthF() / 2, Radius + 2, line, option.palette.color(QPalette::Light));
 }
 
 QColor buttonGround(const QStyleOptionButton &option)
@@ -99,8 +109,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
             frame && frame->features.testFlag(QStyleOptionFrame::Flat))
             return;
-        paintRounded(*painter, option->rect, 0.5, Radius + 2, QPen(option->palette.color(QPalette::Mid), 1),
-                     option->palette.color(QPalette::Light));
+        paintGroup(*painter, *option, widget);
         return;
     case PE_FrameStatusBarItem: {
         // A line between the panels.

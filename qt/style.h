@@ -5,6 +5,9 @@
 
 namespace zrv {
 
+/// The property of a group box that holds its line's colour, where a screen chose one.
+inline constexpr char FrameLineColor[] = "frameLineColor";
+
 /// Fusion with flat fields and buttons and a ring round what has the focus, which is seen from across a desk.
 class Style : public QProxyStyle {
 public:
