@@ -176,19 +176,12 @@ bool Form::userClick(Control &control)
 
 bool Form::userDblClick(Control &control)
 {
-    if (!accepts(control))
-        return false;
-    // The first press of a double click is a click like any other.
-    if (control.kind() != ControlKind::Grid && !userClick(control))
-        return false;
-    if (!accepts(control))
-        return true;
-    return carryOut([&] {
-        if (control.takesFocus())
-            giveFocus(&control);
-        if (control.onDblClick)
-            control.onDblClick();
-    });
+    return accepts(control) && carryOut([&] {
+               if (control.takesFocus())
+                   giveFocus(&control);
+               if (control.onDblClick)
+                   control.onDblClick();
+           });
 }
 
 bool Form::userChoose(Combo &combo, int row)

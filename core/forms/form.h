@@ -72,6 +72,7 @@ public:
     // What a user does. They return false when the control can't be reached or the form is busy.
     bool userFocus(Control &control);
     bool userClick(Control &control);
+    /// The second press of a double click; the first was a click like any other, and came as one.
     bool userDblClick(Control &control);
     /// A letter typed into the focused control, as the keyboard gives it.
     bool userLetter(QChar letter);

@@ -46,7 +46,8 @@ bool HeadlessStage::click(Control &control)
 
 bool HeadlessStage::dblClick(Control &control)
 {
-    return control.form().userDblClick(control);
+    const bool clicked = control.kind() == ControlKind::Grid || control.form().userClick(control);
+    return clicked && control.form().userDblClick(control);
 }
 
 bool HeadlessStage::chooseRow(Control &list, int row)

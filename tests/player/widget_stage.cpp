@@ -218,7 +218,7 @@ bool WidgetStage::dblClick(Control &control)
         cell(static_cast<QAbstractItemView &>(widget), list->listIndex(), 0, true);
         return true;
     }
-    // The form makes the first click of the two itself.
+    mouse(widget, placeOfClick(widget, control.kind()));
     mouse(widget, placeOfClick(widget, control.kind()), true);
     return true;
 }
