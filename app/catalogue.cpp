@@ -12,6 +12,7 @@
 #include "parties/frmKarfarma.h"
 #include "parties/frmKarkonan.h"
 #include "parties/frmSrcKarkonan.h"
+#include "upkeep/frmVersionsFacilities.h"
 
 namespace zrv {
 
@@ -39,6 +40,7 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmKarkonan"_s, makeScreen<frmKarkonan>);
     catalogue.add(u"frmSrcKarkonan"_s, makeScreen<frmSrcKarkonan>);
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
+    catalogue.add(u"frmVersionsFacilities"_s, makeScreen<frmVersionsFacilities>);
 }
 
 void runProgram(Platform &platform)

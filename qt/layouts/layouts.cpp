@@ -16,17 +16,18 @@ struct Row {
 
 // clang-format off
 constexpr Row layouts[] = {
-    {QLatin1String("frmEnterance_Door"),  layOutEnterance_Door},
-    {QLatin1String("frmMain"),            layOutMain},
-    {QLatin1String("frmAbout"),           layOutAbout},
-    {QLatin1String("frmEncodeDecode"),    layOutEncodeDecode},
-    {QLatin1String("frmCreatTextFiles"),  layOutCreatTextFiles},
-    {QLatin1String("frmCodingCalls"),     layOutCodingCalls},
-    {QLatin1String("frmCoding"),          layOutCoding},
-    {QLatin1String("frmUser_Defination"), layOutUser_Defination},
-    {QLatin1String("frmKarfarma"),        layOutKarfarma},
-    {QLatin1String("frmKarkonan"),        layOutKarkonan},
-    {QLatin1String("frmSrcKarkonan"),     layOutSrcKarkonan},
+    {QLatin1String("frmEnterance_Door"),     layOutEnterance_Door},
+    {QLatin1String("frmMain"),               layOutMain},
+    {QLatin1String("frmAbout"),              layOutAbout},
+    {QLatin1String("frmEncodeDecode"),       layOutEncodeDecode},
+    {QLatin1String("frmCreatTextFiles"),     layOutCreatTextFiles},
+    {QLatin1String("frmCodingCalls"),        layOutCodingCalls},
+    {QLatin1String("frmCoding"),             layOutCoding},
+    {QLatin1String("frmUser_Defination"),    layOutUser_Defination},
+    {QLatin1String("frmKarfarma"),           layOutKarfarma},
+    {QLatin1String("frmKarkonan"),           layOutKarkonan},
+    {QLatin1String("frmSrcKarkonan"),        layOutSrcKarkonan},
+    {QLatin1String("frmVersionsFacilities"), layOutVersionsFacilities},
 };
 // clang-format on
 

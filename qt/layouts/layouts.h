@@ -22,5 +22,6 @@ void layOutUser_Defination(LayoutBuilder &b);
 void layOutKarfarma(LayoutBuilder &b);
 void layOutKarkonan(LayoutBuilder &b);
 void layOutSrcKarkonan(LayoutBuilder &b);
+void layOutVersionsFacilities(LayoutBuilder &b);
 
 } // namespace zrv
