@@ -8,6 +8,8 @@
 #include <QContextMenuEvent>
 #include <QMimeData>
 #include <QScopedValueRollback>
+#include <QStyle>
+#include <QTextOption>
 
 namespace zrv {
 
@@ -38,6 +40,10 @@ AreaEdit::AreaEdit(Edit &edit, FormWindow &window, QWidget *parent)
     setTabChangesFocus(true);
     if (edit.isLeftToRight())
         setLayoutDirection(Qt::LeftToRight);
+    // The area puts every line at the left unless it is told; each line still runs as its own letters do.
+    QTextOption lines = document()->defaultTextOption();
+    lines.setAlignment(QStyle::visualAlignment(layoutDirection(), Qt::AlignLeft));
+    document()->setDefaultTextOption(lines);
     connect(this, &QPlainTextEdit::textChanged, this, [this] { textEditedByWidget(); });
     connect(this, &QPlainTextEdit::selectionChanged, this, [this] { selectionMovedByWidget(); });
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { selectionMovedByWidget(); });
