@@ -92,9 +92,10 @@ void BrowsePanel::reset()
     ArrangeSearchBar(false, m_screen);
 }
 
-void BrowsePanel::showRows(const QString &statement)
+void BrowsePanel::showRows(const QString &statement, const QString &order)
 {
-    grid.setRows(openRows(m_screen.program(), statement));
+    grid.setRows(openRows(m_screen.program(), statement + order));
+    m_shown = statement;
     LabelGridCount.setCaption(Format(grid.rowCount(), m_query.countFormat));
 }
 
@@ -112,17 +113,17 @@ void BrowsePanel::reporting(const std::function<void()> &routine)
 
 void BrowsePanel::fill()
 {
-    reporting([this] { showRows(m_query.all() + m_query.order); });
+    reporting([this] { showRows(m_query.all(), m_query.order); });
 }
 
 void BrowsePanel::fillAsStored()
 {
-    reporting([this] { showRows(m_query.all()); });
+    reporting([this] { showRows(m_query.all(), {}); });
 }
 
-bool BrowsePanel::show(const QString &statement)
+bool BrowsePanel::show(const QString &statement, const QString &order)
 {
-    showRows(statement);
+    showRows(statement, order);
     return grid.rowCount() > 0;
 }
 
@@ -136,8 +137,8 @@ void BrowsePanel::headClicked(int column)
 {
     if (OptSort.isChecked()) {
         reporting([&] {
-            showRows(m_query.all() + u" ORDER BY "_s + expressionOf(column)
-                     + (m_sortAscending ? u" ASC"_s : u" DESC"_s));
+            showRows(m_shown.isEmpty() ? m_query.all() : m_shown,
+                     u" ORDER BY "_s + expressionOf(column) + (m_sortAscending ? u" ASC"_s : u" DESC"_s));
         });
     } else if (OptSearch.isChecked()) {
         m_searchColumn = column;
@@ -187,7 +188,8 @@ bool BrowsePanel::search()
     for (const QString &word : words)
         lstWord_Seperator.addItem({word, {}});
     if (!words.isEmpty())
-        return show(m_query.search(wordCondition(expressionOf(m_searchColumn), words, m_searchSimilar)));
+        return show(m_query.search(wordCondition(expressionOf(m_searchColumn), words, m_searchSimilar)),
+                    m_query.searchOrder.isEmpty() ? m_query.order : m_query.searchOrder);
     fill();
     return true;
 }

@@ -23,7 +23,8 @@ enum class FailureReport { PlainBox, ErrorBox };
 struct BrowseQuery {
     std::function<QString()> all;                            ///< the statement of all rows, without its order
     QString order = {};                                      ///< the grid's usual order
-    std::function<QString(const QString &condition)> search; ///< the whole statement of a search
+    std::function<QString(const QString &condition)> search; ///< the statement of a search, without its order
+    QString searchOrder = {};                                ///< of the rows found; empty: the usual one
     FailureReport report = FailureReport::PlainBox;
     QString countFormat = u"0"_s; ///< picture of the number of rows
 };
@@ -64,8 +65,9 @@ public:
     void fill();
     /// All rows in the order in which they were entered, as OptNormal shows them.
     void fillAsStored();
-    /// Shows the rows of any statement with the panel's columns; false when there are none.
-    bool show(const QString &statement);
+    /// Shows the rows of any statement with the panel's columns; false when there are none. The order stands apart,
+    /// as a click on a column's head sorts the same rows by another.
+    bool show(const QString &statement, const QString &order = {});
     /// The condition of a search for these words in a field: each word alike or equal, joined by And or Or.
     [[nodiscard]] QString wordCondition(const QString &field, const QStringList &words, bool alike) const;
 
@@ -81,7 +83,7 @@ public:
     [[nodiscard]] int rowCount() const { return grid.rowCount(); }
 
 private:
-    void showRows(const QString &statement);
+    void showRows(const QString &statement, const QString &order);
     void reporting(const std::function<void()> &routine);
     void headClicked(int column);
     bool gridKey(Key key);
@@ -93,6 +95,7 @@ private:
 
     BrowseQuery m_query;
     std::vector<BrowseColumn> m_columns;
+    QString m_shown; ///< the statement of the rows in the grid, without their order
     int m_searchColumn = 0;
     bool m_sortAscending = true;
     bool m_searchSimilar = true;

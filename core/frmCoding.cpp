@@ -18,6 +18,7 @@ const QString Refused = u" اخطار  "_s;
 const QString ExemptionList = u"17"_s; ///< its codes are years and its descriptions amounts
 const QString CountryList = u"12"_s;
 const QString HomeCountry = u"1"_s;
+const QString SearchOrder = u" ORDER BY SCode "_s;
 
 /// Where a code of a list may be in use, so that it must stay. The other lists have no guard.
 struct Guard {
@@ -58,6 +59,7 @@ frmCoding::frmCoding(Program &program, QString list, QString listName)
                       },
                   .order = u" ORDER BY val(SCode)"_s,
                   .search = [this](const QString &condition) { return searchStatement(condition); },
+                  .searchOrder = SearchOrder,
                   .report = FailureReport::ErrorBox},
                  {{u"SCode"_s, years ? u" سال "_s : u"  كـد "_s, {}, true},
                   {u"SDesc"_s, years ? u" مبلغ معافيت ساليانه(ريال) "_s : u" شرح کـــــد "_s,
@@ -199,21 +201,21 @@ void frmCoding::DeleteRoutine()
 QString frmCoding::searchStatement(const QString &condition) const
 {
     return u"SELECT val(SCode) AS SCode,SDesc FROM ZRVtbCoding"_s + u" WHERE "_s + u" MCode = "_s + quoted(m_list)
-           + u" AND ("_s + condition + u") ORDER BY SCode "_s;
+           + u" AND ("_s + condition + u")"_s;
 }
 
-/// Looks for the same description in the list; if it is there, shows those like it, and says so.
+/// Looks for the same description in the list; if it is there, says so and shows those like it.
 bool frmCoding::RecordIsDuplicate()
 {
     const QString description = txtSDesc.text().trimmed();
     if (!RecordExists(m_program, u"SELECT * FROM ZRVtbCoding"_s + u" WHERE MCode = "_s + quoted(m_list) + u" AND "_s
                                      + u"Sdesc = "_s + quoted(description)))
         return false;
-    browse.show(searchStatement(browse.wordCondition(u"SDesc"_s, searchWords(description), true)));
     messageBox(box::Refusal, Refused,
                u" عبارت ( "_s + description
                    + u" ) قبلا تعريف شده است.لطفا از تعريف مجدد عبارتهاي تکراري اکيدا خودداري نماييد"_s + u"\r\n"_s
                    + u"جهت اطلاع ، عبارتهاي مشابه تعريف شده قبلي در ليست زير نمايش داده شده است"_s);
+    browse.show(searchStatement(browse.wordCondition(u"SDesc"_s, searchWords(description), true)), SearchOrder);
     return true;
 }
 

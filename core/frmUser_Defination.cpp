@@ -22,17 +22,16 @@ frmUser_Defination::frmUser_Defination(Program &program)
     : RecordScreen(program, u"frmUser_Defination"_s)
 {
     setCaption(lblForm.caption());
-    browse.setUp(
-        {.all = [] { return AllUsers; },
-         .order = ByName,
-         .search = [](const QString &condition) { return QString(AllUsers + u" WHERE "_s + condition + ByName); },
-         .report = FailureReport::ErrorBox},
-        {
-            {u"UserNamee"_s, u" نام کاربري "_s, {}, true},
-            {u"Name"_s, u" نام کاربر "_s},
-            {u"Family"_s, u" نام خانوادگي کاربر"_s},
-            {u"Access_Level"_s, u" سطح دسترسي "_s, {}, false, LevelInWords},
-        });
+    browse.setUp({.all = [] { return AllUsers; },
+                  .order = ByName,
+                  .search = [](const QString &condition) { return QString(AllUsers + u" WHERE "_s + condition); },
+                  .report = FailureReport::ErrorBox},
+                 {
+                     {u"UserNamee"_s, u" نام کاربري "_s, {}, true},
+                     {u"Name"_s, u" نام کاربر "_s},
+                     {u"Family"_s, u" نام خانوادگي کاربر"_s},
+                     {u"Access_Level"_s, u" سطح دسترسي "_s, {}, false, LevelInWords},
+                 });
     browse.onPick = [this] { pickRow(); };
     browse.onDelete = [this] {
         if (!txtUserNamee.isReachable())

@@ -145,12 +145,10 @@ void frmKarkonan::Form_Load()
 
 void frmKarkonan::FormatGrid()
 {
-    browse.setUp(
-        {.all = payeeSelect,
-         .order = UsualOrder,
-         .search =
-             [](const QString &condition) { return QString(payeeSelect() + u" WHERE "_s + condition + UsualOrder); }},
-        payeeColumns(u"کدملي/گذرنامه"_s));
+    browse.setUp({.all = payeeSelect,
+                  .order = UsualOrder,
+                  .search = [](const QString &condition) { return QString(payeeSelect() + u" WHERE "_s + condition); }},
+                 payeeColumns(u"کدملي/گذرنامه"_s));
 }
 
 void frmKarkonan::FillGrid()
@@ -295,13 +293,13 @@ void frmKarkonan::AutoSearch()
 {
     QStringList clauses;
     for (const QStringView column : {u"Name", u"Family"})
-        if (const QString text = fieldOf(column).text().trimmed(); !text.isEmpty())
+        if (const QString text = fieldOf(column).text(); !text.isEmpty())
             clauses += column + u" LIKE "_s + quoted(QString(u'%' + text + u'%'));
     if (clauses.isEmpty())
         FillGrid();
     else
-        browse.show(payeeSelect() + u" WHERE "_s + clauses.join(u" AND ")
-                    + (browse.OptNormal.isChecked() ? QString() : UsualOrder));
+        browse.show(payeeSelect() + u" WHERE "_s + clauses.join(u" AND "),
+                    browse.OptNormal.isChecked() ? QString() : UsualOrder);
 }
 
 void frmKarkonan::chkAutoSearch_Click()

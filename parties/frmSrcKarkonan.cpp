@@ -38,10 +38,7 @@ void frmSrcKarkonan::FormatGrid()
     browse.LabelGridCountCaption.setCaption(u"تعداد حقوق بگيران :"_s);
     browse.setUp({.all = payeeSelect,
                   .order = u" ORDER BY MelliCode "_s,
-                  .search =
-                      [](const QString &sought) {
-                          return QString(payeeSelect() + u" WHERE "_s + sought + u" ORDER BY MelliCode "_s);
-                      },
+                  .search = [](const QString &sought) { return QString(payeeSelect() + u" WHERE "_s + sought); },
                   .countFormat = u"#,##0"_s},
                  payeeColumns(u" کـد ملي "_s));
 }
@@ -66,7 +63,7 @@ QString frmSrcKarkonan::condition() const
 
 void frmSrcKarkonan::SearchRoutine()
 {
-    browse.show(payeeSelect() + condition() + u" ORDER BY val(MelliCode) "_s);
+    browse.show(payeeSelect() + condition(), u" ORDER BY val(MelliCode) "_s);
 }
 
 void frmSrcKarkonan::ReturnSelection()
