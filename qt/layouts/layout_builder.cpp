@@ -26,6 +26,11 @@ QWidget *LayoutBuilder::widget(const QString &name) const
     return found;
 }
 
+QString LayoutBuilder::shownText(const QString &name) const
+{
+    return m_window.form().find(name)->shownText().trimmed();
+}
+
 void LayoutBuilder::add(QBoxLayout &box, const Cell &cell) const
 {
     if (cell.layout)
@@ -87,6 +92,29 @@ QLayout *LayoutBuilder::fields(std::initializer_list<std::pair<const char16_t *,
         if (auto *text = qobject_cast<QLabel *>(label); text && named && named->focusPolicy() != Qt::NoFocus)
             text->setBuddy(named);
         ++place;
+    }
+    return grid;
+}
+
+QLayout *LayoutBuilder::figures(Cells heads, std::initializer_list<std::pair<const char16_t *, Cells>> lines)
+{
+    auto *const grid = new QGridLayout;
+    int column = 0;
+    for (const Cell &head : heads) {
+        grid->addWidget(widget(head.name), 0, ++column, Qt::AlignCenter);
+        grid->setColumnStretch(column, 1);
+    }
+    int row = 0;
+    for (const auto &[labelName, cells] : lines) {
+        const QString label = QString::fromUtf16(labelName);
+        grid->addWidget(widget(label), ++row, 0);
+        column = 0;
+        for (const Cell &cell : cells) {
+            QWidget *const field = widget(cell.name);
+            const QString &head = heads.begin()[column].name;
+            field->setAccessibleName(shownText(label) + u' ' + shownText(head));
+            grid->addWidget(field, row, ++column);
+        }
     }
     return grid;
 }

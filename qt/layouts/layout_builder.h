@@ -51,6 +51,8 @@ public:
     QLayout *table(int columns, Cells cells);
     /// Labels with their fields, so many pairs to a line. The label names its field to screen readers.
     QLayout *fields(std::initializer_list<std::pair<const char16_t *, Cell>> pairs, int pairsPerLine = 1);
+    /// A field under each head in the line of each label; head and label together name it to screen readers.
+    QLayout *figures(Cells heads, std::initializer_list<std::pair<const char16_t *, Cells>> lines);
     /// The three boxes of a date, by what their names begin with: year, month and day from left to right, as dates
     /// are written.
     QLayout *date(const char16_t *prefix);
@@ -88,6 +90,7 @@ public:
 
 private:
     QWidget *widget(const QString &name) const;
+    QString shownText(const QString &name) const;
     void add(QBoxLayout &box, const Cell &cell) const;
 
     FormWindow &m_window;

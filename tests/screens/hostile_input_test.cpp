@@ -10,6 +10,7 @@
 #include "core/store/new_store.h"
 #include "core/store/recordset.h"
 #include "core/store/schema.h"
+#include "lists/frmTransferData.h"
 #include "parties/frmKarfarma.h"
 #include "tests/print_text.h"
 #include "tests/screens/hostile_texts.h"
@@ -77,6 +78,7 @@ const std::vector<Stage> Stages{
     {"PayerLegal",    make<frmKarfarma>,       LegalPayer, u"cmdDataOk", true},
     {"PayerNatural",  make<frmKarfarma>,       NaturalPayer, u"cmdDataOk", true},
     {"PayerSearch",   make<frmKarfarma>,       {{u"chkAutoSearch"}, {u"OptSearch"}, {u"dbgLetter_Topic", u"3"}}, u"cmdSearch"},
+    {"Transfer",      make<frmTransferData>,   {{u"dcbSourceYear", u"1389"}, {u"dcbSourceMonth", u"12"}, {u"txtDestinationYear", u"1390"}, {u"dcbDestinationMonth", u"01"}}, u"cmdDisplayInformation", false, {}, {u"INSERT INTO ZRVtbHogog (TFN,MelliCode,TaxYear,TaxMonth) VALUES ('','1','1389','12')"}},
 };
 // clang-format on
 
@@ -109,9 +111,11 @@ protected:
     HostileInput()
     {
         createStore(path());
-        m_pristine = bytes();
         m_program.StoreConnectionString = u"Provider = Microsoft.Jet.OLEDB.4.0;Data Source = "_s + m_folder.path()
                                           + u"\\DBZorvan.mdb;Persist Security Info=False"_s;
+        for (const char16_t *statement : GetParam().statements)
+            Connection(m_program.StoreConnectionString).execute(QString::fromUtf16(statement));
+        m_pristine = bytes();
         m_rows = rows();
         const std::unique_ptr<Screen> asMade = GetParam().make(m_program);
         for (const Control *control : asMade->controls())

@@ -30,6 +30,8 @@ struct Stage {
         const char16_t *field;
     };
     std::vector<StoredIn> storedIn = {};
+    /// Run on the fresh store, whose payer number is empty, before the screen is opened.
+    std::vector<const char16_t *> statements = {};
 };
 
 inline void PrintTo(const Stage &stage, std::ostream *out)
