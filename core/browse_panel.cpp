@@ -71,7 +71,7 @@ void BrowsePanel::setUp(BrowseQuery query, std::vector<BrowseColumn> columns)
     m_columns = std::move(columns);
     std::vector<GridColumn> shown;
     for (const BrowseColumn &column : m_columns)
-        shown.push_back({column.field, column.caption, column.format, column.leftToRight});
+        shown.push_back({column.field, column.caption, column.format, column.leftToRight, column.visible});
     grid.setColumns(std::move(shown));
 }
 
@@ -136,9 +136,11 @@ QString BrowsePanel::expressionOf(int column) const
 void BrowsePanel::headClicked(int column)
 {
     if (OptSort.isChecked()) {
+        const QString &sortedBy = m_columns[static_cast<size_t>(column)].sortedBy;
         reporting([&] {
             showRows(m_shown.isEmpty() ? m_query.all() : m_shown,
-                     u" ORDER BY "_s + expressionOf(column) + (m_sortAscending ? u" ASC"_s : u" DESC"_s));
+                     u" ORDER BY "_s + (sortedBy.isEmpty() ? expressionOf(column) : sortedBy)
+                         + (m_sortAscending ? u" ASC"_s : u" DESC"_s));
         });
     } else if (OptSearch.isChecked()) {
         m_searchColumn = column;

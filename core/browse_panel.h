@@ -14,6 +14,8 @@ struct BrowseColumn {
     QString format = {};      ///< "#,##0" for money, "##/##/##" for dates
     bool leftToRight = false; ///< codes and numbers
     QString expression = {};  ///< what the field is in a condition; empty when it is the field itself
+    QString sortedBy = {};    ///< what rows are sorted by; empty when it is what the field is in a condition
+    bool visible = true;
 };
 
 /// Where a failure of the grid's statements is told: in the plain box of most grids, or in the error box.

@@ -17,6 +17,8 @@ constexpr int EscapeCode = 27;
 
 } // namespace
 
+const QString RecordScreen::RequiredMissing = u"  مقداردهي مواردي که با رنگ زمينه متمايز گرديده اند الزامي ميباشد "_s;
+
 RecordScreen::RecordScreen(Program &program, QString name, QString keyContainer, QString dataContainer)
     : Screen(program, std::move(name))
     , m_keyContainer(std::move(keyContainer))
@@ -57,10 +59,20 @@ bool RecordScreen::goBack()
 
 bool RecordScreen::requiredAreFilled(QStringView container)
 {
-    const RequiredFields fields = CheckRequired(container, *this);
+    return requiredAreFilled(std::initializer_list<QStringView>{container});
+}
+
+bool RecordScreen::requiredAreFilled(std::initializer_list<QStringView> containers, const QString &refusal)
+{
+    RequiredFields fields;
+    for (const QStringView container : containers) {
+        Control *const empty = CheckRequired(container, *this).firstEmpty;
+        if (empty && (!fields.firstEmpty || empty->tabIndex() < fields.firstEmpty->tabIndex()))
+            fields.firstEmpty = empty;
+    }
     if (fields.allFilled())
         return true;
-    messageBox(box::Refusal, u" اخطار  "_s, u"  مقداردهي مواردي که با رنگ زمينه متمايز گرديده اند الزامي ميباشد "_s);
+    messageBox(box::Refusal, u" اخطار  "_s, refusal);
     fields.firstEmpty->setFocus();
     return false;
 }

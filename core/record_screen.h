@@ -3,6 +3,8 @@
 
 #include "core/screen.h"
 
+#include <initializer_list>
+
 namespace zrv {
 
 /// What the record screens share. The form looks at each key first and drops those that the field's tag doesn't
@@ -17,8 +19,10 @@ public:
 protected:
     void Form_KeyPress(int &keyAscii) override;
 
-    /// CheckRequired over a container; when a field is empty the user is told and the focus goes to the first one.
+    /// CheckRequired over a container, or over several in turn; when a field is empty the user is told and the focus
+    /// goes to the one that comes first in tab order.
     bool requiredAreFilled(QStringView container);
+    bool requiredAreFilled(std::initializer_list<QStringView> containers, const QString &refusal = RequiredMissing);
 
     /// Key fields closed, data fields open.
     void openDataStage();
@@ -49,6 +53,8 @@ protected:
     virtual bool goBack();
 
 private:
+    static const QString RequiredMissing;
+
     QString m_keyContainer;
     QString m_dataContainer;
 };

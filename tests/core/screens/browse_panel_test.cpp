@@ -2,14 +2,11 @@
 #include "core/basic/run_time_error.h"
 #include "core/browse_panel.h"
 #include "tests/core/screens/quiet_platform.h"
+#include "tests/core/store/store_fixture.h"
 #include "tests/print_text.h"
-
-#include <gtest/gtest.h>
 
 namespace zrv {
 namespace {
-
-using namespace Qt::Literals::StringLiterals;
 
 class ScreenWithPanel : public RecordScreen {
 public:
@@ -74,6 +71,51 @@ TEST_F(BrowsePanelTest, ShowingTheSearchBarSwitchesSortAndNormalOn)
     ArrangeSearchBar(true, m_screen);
     EXPECT_TRUE(m_panel.OptSort.isEnabled());
     EXPECT_TRUE(m_panel.OptNormal.isEnabled());
+}
+
+class BrowsePanelRows : public StoreTest {
+protected:
+    BrowsePanelRows()
+    {
+        execute(u"DELETE FROM ZRVtbCoding"_s);
+        for (const auto *amount : {"900", "1000", "20"})
+            execute(u"INSERT INTO ZRVtbCoding VALUES ('1','',%1,'%1')"_s.arg(QLatin1String(amount)));
+        m_program.StoreConnectionString = connectionString();
+        m_screen.browse.setUp({.all = [] { return u"SELECT MCode,SDesc FROM ZRVtbCoding"_s; }, .search = nullptr},
+                              {{.field = u"MCode"_s, .caption = u"list"_s, .visible = false},
+                               {.field = u"SDesc"_s, .caption = u"amount"_s, .sortedBy = u"val(ZRVtbCoding.SDesc)"_s}});
+        m_screen.load();
+        m_screen.browse.fill();
+    }
+
+    QStringList amounts() const
+    {
+        QStringList cells;
+        for (int row = 0; row < m_screen.browse.grid.rowCount(); ++row)
+            cells += m_screen.browse.grid.shownCell(row, 1);
+        return cells;
+    }
+
+    QuietPlatform m_platform;
+    Program m_program{m_platform};
+    ScreenWithPanel m_screen{m_program};
+};
+
+TEST_F(BrowsePanelRows, ColumnIsSortedByWhatItNames)
+{
+    m_screen.browse.OptSort.setChecked(true);
+    ASSERT_TRUE(m_screen.userHead(m_screen.browse.grid, 1));
+    EXPECT_EQ(amounts(), (QStringList{u"20"_s, u"900"_s, u"1000"_s}));
+    m_screen.browse.OptSort.onDblClick();
+    ASSERT_TRUE(m_screen.userHead(m_screen.browse.grid, 1));
+    EXPECT_EQ(amounts(), (QStringList{u"1000"_s, u"900"_s, u"20"_s}));
+}
+
+TEST_F(BrowsePanelRows, HiddenColumnHoldsItsCellsAllTheSame)
+{
+    EXPECT_FALSE(m_screen.browse.grid.columns()[0].visible);
+    EXPECT_TRUE(m_screen.browse.grid.columns()[1].visible);
+    EXPECT_EQ(m_screen.browse.grid.currentCell(u"MCode"), u"1"_s);
 }
 
 } // namespace
