@@ -31,6 +31,7 @@ DateBoxes::DateBoxes(Platform &platform, Container &container, const QString &st
     , month(container, stem + u"_Month"_s, {.limit = PartDigits, .tag = look.monthTag, .leftToRight = true})
     , day(container, stem + u"_Day"_s, {.limit = PartDigits, .tag = look.dayTag, .leftToRight = true})
     , m_dayShortensMonth(look.dayShortensMonth)
+    , m_judgesShownDay(look.judgesShownDay)
 {
     year.onChange = [this] { yearChanged(); };
     year.onLostFocus = [this] { yearLeft(); };
@@ -69,7 +70,7 @@ void DateBoxes::refuse(const QString &text, TextBox &box, const QString &left)
     box.setFocus();
 }
 
-// Only what a user types is judged: a stored date is shown as it is.
+// Only what a user types is judged, unless the screen wants the day judged always: a stored date is shown as it is.
 
 void DateBoxes::yearChanged()
 {
@@ -89,7 +90,7 @@ void DateBoxes::monthChanged()
 
 void DateBoxes::dayChanged()
 {
-    if (!day.hasFocus())
+    if (!day.hasFocus() && !m_judgesShownDay)
         return;
     const qint64 value = wholeVal(day.text());
     if (value > LastDay)

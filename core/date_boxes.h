@@ -13,12 +13,15 @@ namespace zrv {
 /// Whether there is such a day isn't judged: "00", or the thirtieth of a month of 29, passes.
 class DateBoxes {
 public:
+    /// What dates differ in from screen to screen.
     struct Look {
         QString yearTag = QStringLiteral("+DigitOnly");
         QString monthTag = {};
         QString dayTag = {};
         /// Backspace in an empty day takes the last digit of the month, as it does with month and year.
         bool dayShortensMonth = false;
+        /// The day is judged whoever changes it: a stored day that can't be is told as it is shown.
+        bool judgesShownDay = false;
     };
 
     DateBoxes(Platform &platform, Container &container, const QString &stem, const Look &look);
@@ -54,6 +57,7 @@ private:
     void refuse(const QString &text, TextBox &box, const QString &left);
 
     bool m_dayShortensMonth;
+    bool m_judgesShownDay;
 };
 
 } // namespace zrv

@@ -235,6 +235,19 @@ TEST(DateBoxes, BackspaceInAnEmptyDayShortensTheMonthWhereTheScreenWantsIt)
     EXPECT_EQ(form.date.month.selLength(), 0);
 }
 
+TEST(DateBoxes, StoredDayIsJudgedTooWhereTheScreenWantsIt)
+{
+    DateForm form({.judgesShownDay = true});
+    form.userFocus(form.txtBefore);
+    form.date.show(u"13890731"_s);
+    EXPECT_EQ(form.platform.boxes, QStringList{SecondHalf});
+    EXPECT_EQ(form.date.stored(), u"13890730"_s);
+    EXPECT_TRUE(form.date.day.hasFocus());
+    form.date.show(u"13890631"_s);
+    form.date.show({});
+    EXPECT_EQ(form.platform.boxes.size(), 1);
+}
+
 TEST(DateBoxes, BackspaceInAFilledMonthOnlyErases)
 {
     DateForm form;
