@@ -51,7 +51,7 @@ constexpr Column Hogog[] = {
     {u"JariTax", Amount}, {u"FinalTax", Amount},
 };
 
-constexpr Column KholList[] = {
+constexpr Column KholList[] = { // its two counts have room for the separator that a new row keeps
     {u"TFN", 12}, {u"KholListType", Code}, {u"TaxYear", 4}, {u"TaxMonth", Code},
     {u"JariSumHogog", MonthAmount}, {u"JariSumMashmol", MonthAmount}, {u"JariTax", MonthAmount},
     {u"JariJarimeDo", MonthAmount}, {u"JariJarimeBist", MonthAmount}, {u"JariBedehiTax", MonthAmount},
@@ -59,7 +59,7 @@ constexpr Column KholList[] = {
     {u"GablSumHogog", EarlierAmount}, {u"GablSumMashmol", EarlierAmount}, {u"GablTax", EarlierAmount},
     {u"GablJarimeDo", EarlierAmount}, {u"GablJarimeBist", EarlierAmount}, {u"GablBedehiTax", EarlierAmount},
     {u"GablEzafeTax", EarlierAmount},
-    {u"RoznameDate", Date}, {u"KarkonanNo", 6}, {u"KharejiNo", 4}, {u"NahveyePardakht", Code},
+    {u"RoznameDate", Date}, {u"KarkonanNo", 7}, {u"KharejiNo", 5}, {u"NahveyePardakht", Code},
     {u"ChequeSeriNo", 15}, {u"ChequeDate", Date}, {u"BankName", Code}, {u"ShobeName", 25}, {u"HesabNo", 13},
     {u"MablagPardakhti", MonthAmount},
 };
