@@ -1,13 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "lists/month_arithmetic.h"
 
-#include "core/basic/number_format.h"
 #include "core/basic/text.h"
-#include "core/basic/val.h"
 #include "core/public/null_text.h"
 #include "core/public/number_words.h"
-
-#include <algorithm>
 
 namespace zrv {
 
@@ -15,9 +11,6 @@ using namespace Qt::Literals::StringLiterals;
 using enum MonthField;
 
 namespace {
-
-/// Beyond what any column holds, and low enough for sums of a few of them.
-constexpr qint64 LargestAmount = 1'000'000'000'000'000'000;
 
 constexpr quint8 operator|(ExemptionClass left, ExemptionClass right)
 {
@@ -97,21 +90,16 @@ QString exemptionText(ExemptionClass exemption)
     return u"معافيت کامل"_s;
 }
 
-QString shownAmount(const QString &amount)
-{
-    return Format(amount, u"#,##0");
-}
-
 QString storedAmount(const QString &shown)
 {
-    return NullToZero(Trim(Format(shown, u"0")));
+    return NullToZero(Trim(plainAmount(shown)));
 }
 
 // The formulas -----------------------------------------------------------------------------------------------
 
 qint64 MonthArithmetic::amount(MonthField field) const
 {
-    return std::clamp(wholeVal(Format(m_sheet.text(field), u"0")), -LargestAmount, LargestAmount);
+    return amountOf(m_sheet.text(field));
 }
 
 QString MonthArithmetic::SumCashAmounts() const

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "lists/amounts.h"
 #include "lists/salary_columns.h"
 
 #include <QString>
@@ -25,8 +26,6 @@ enum class ExemptionClass : quint8 {
 /// What lbDVaziateMoafiat shows.
 [[nodiscard]] QString exemptionText(ExemptionClass exemption);
 
-/// An amount as it is shown, "1,200", from any text of digits; a blank stays blank.
-[[nodiscard]] QString shownAmount(const QString &amount);
 /// An amount as it is stored, "1200": blank ones as "0".
 [[nodiscard]] QString storedAmount(const QString &shown);
 
