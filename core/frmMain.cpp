@@ -67,7 +67,10 @@ frmMain::frmMain(Program &program)
              {mnusubVersionsFacilities, u"frmVersionsFacilities"_s},
          })
         row.control.onClick = [this, screen = row.screen] { openScreen(screen); };
-    program.showPayer = [this](const QString &text) { panelPayer.setText(text); };
+    program.showPayer = [this](const QString &text) {
+        panelPayer.setText(text);
+        m_program.ShownPayer = text;
+    };
     cmdSrcMoadi.onClick = [this] { cmdSrcMoadi_Click(); };
     mnusubUpgradeDatabaseStructure.onClick = [this] { mnusubUpgradeDatabaseStructure_Click(); };
     cmdExit.onClick = mnuExit.onClick = [this] { cmdExit_Click(); };
@@ -138,8 +141,8 @@ void frmMain::testPayer()
     if (branch.toText().isEmpty())
         messageBox(box::Plain, QString(), noBranch);
 
-    panelPayer.setText(payer.value(u"name").toText() + u" "_s + payer.value(u"Family").toText() + u" - شعبه "_s
-                       + branch.toText());
+    m_program.showPayer(payer.value(u"name").toText() + u" "_s + payer.value(u"Family").toText() + u" - شعبه "_s
+                        + branch.toText());
     panelUser.setText(u"کاربر : "_s + m_program.UserFullName);
     panelOwner.setText(u"ديوان زروان "_s);
 

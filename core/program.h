@@ -52,7 +52,11 @@ struct Program {
     QString PrevSoftVersion;                        ///< the version for which the first-run question came last
     QString HogogPath;                              ///< WH file handed from the writer to the check screen
     QString KholPath;                               ///< WK file likewise
+    QString DisplayedTFN;                           ///< first values of the last electronic file displayed,
+    QString DisplayedTaxYear;                       ///< blank until the first is; the printed summary's bar code
+    QString DisplayedTaxMonth;                      ///< reads them
     std::function<void(const QString &)> showPayer; ///< writes the payer's name into the main form's status bar
+    QString ShownPayer;                             ///< what stands there, which the printed salary list bears
     QString SearchCallerName;                       ///< who opened the payee search
     QString SelectedMelliCode;                      ///< the payee picked there
 };

@@ -38,7 +38,7 @@ QString shownText(QString text)
 
 Answer QtPlatform::messageBox(int style, const QString &title, const QString &text)
 {
-    QMessageBox box(iconOf(style), title, shownText(text), QMessageBox::NoButton, topWindow());
+    QMessageBox box(iconOf(style), title, shownText(text), QMessageBox::NoButton, foremost());
     box.setObjectName(u"messageBox"_s);
     box.setTextFormat(Qt::PlainText);
     // Texts with numbers and paths are read out on the phone and sent by mail.
@@ -49,12 +49,7 @@ Answer QtPlatform::messageBox(int style, const QString &title, const QString &te
     QPushButton *const no = asks ? box.addButton(u"خير"_s, QMessageBox::NoRole) : nullptr;
     box.setDefaultButton(first);
     box.setEscapeButton(asks ? no : first);
-    box.setWindowModality(Qt::ApplicationModal);
-    QObject::connect(&box, &QDialog::finished, &box, [this] { wake(); });
-    box.show();
-    waitUntil([&] { return !box.isVisible(); });
-    if (isEnding())
-        throwOn();
+    runDialog(box);
     if (!asks)
         return Answer::Ok;
     return box.clickedButton() == first ? Answer::Yes : Answer::No;

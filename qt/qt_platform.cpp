@@ -5,6 +5,7 @@
 #include "core/mdlError.h"
 #include "qt/form_window.h"
 #include "qt/look.h"
+#include "qt/preview/preview_window.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -116,6 +117,40 @@ FormWindow *QtPlatform::topWindow() const
     return m_windows.empty() ? nullptr : m_windows.back();
 }
 
+QWidget *QtPlatform::foremost() const
+{
+    return m_preview ? static_cast<QWidget *>(m_preview) : topWindow();
+}
+
+void QtPlatform::runDialog(QDialog &dialog)
+{
+    dialog.setWindowModality(Qt::ApplicationModal);
+    QObject::connect(&dialog, &QDialog::finished, &dialog, [this] { wake(); });
+    dialog.show();
+    waitUntil([&] { return !dialog.isVisible(); });
+    if (isEnding())
+        throwOn();
+}
+
+void QtPlatform::preview(const Report &report)
+{
+    PreviewWindow window(report, *this, topWindow());
+    m_preview = &window;
+    struct Leave {
+        PreviewWindow *&preview;
+        ~Leave() { preview = nullptr; }
+    } const leave{m_preview};
+    window.open();
+    waitWhileOpen(window);
+    if (isEnding())
+        throwOn();
+}
+
+void QtPlatform::waitWhileOpen(PreviewWindow &window)
+{
+    waitUntil([&window] { return !window.isVisible(); });
+}
+
 void QtPlatform::yield()
 {
     QCoreApplication::processEvents();
@@ -126,17 +161,12 @@ void QtPlatform::yield()
 std::optional<QString> QtPlatform::openFileDialog(const QString &folder, const QString &filter)
 {
     look::speakPersian();
-    QFileDialog dialog(topWindow(), QString(), nativePath(folder), filter);
+    QFileDialog dialog(foremost(), QString(), nativePath(folder), filter);
     dialog.setObjectName(u"fileDialog"_s);
     dialog.setFileMode(QFileDialog::ExistingFile);
     // The desktop's own dialogue speaks the desktop's language and direction.
     dialog.setOption(QFileDialog::DontUseNativeDialog);
-    dialog.setWindowModality(Qt::ApplicationModal);
-    QObject::connect(&dialog, &QDialog::finished, &dialog, [this] { wake(); });
-    dialog.show();
-    waitUntil([&] { return !dialog.isVisible(); });
-    if (isEnding())
-        throwOn();
+    runDialog(dialog);
     if (dialog.result() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return dialog.selectedFiles().constFirst();

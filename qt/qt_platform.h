@@ -14,12 +14,14 @@
 #include <functional>
 #include <vector>
 
+class QDialog;
 class QEventLoop;
 class QWidget;
 
 namespace zrv {
 
 class FormWindow;
+class PreviewWindow;
 
 class QtPlatform : public Platform {
 public:
@@ -32,6 +34,7 @@ public:
     void runModal(Form &form) override;
     std::optional<QString> openFileDialog(const QString &folder, const QString &filter) override;
     void viewFile(const QString &path) override;
+    void preview(const Report &report) override;
     QSize displaySize() override;
     QDate today() override;
     QTime timeOfDay() override;
@@ -48,6 +51,12 @@ public:
     /// The window above all others; null before the first.
     [[nodiscard]] FormWindow *topWindow() const;
 
+    /// The open preview; null when there is none.
+    [[nodiscard]] PreviewWindow *previewWindow() const { return m_preview; }
+
+    /// Shows a dialogue of Qt's above all windows and returns when it is closed.
+    void runDialog(QDialog &dialog);
+
     /// The one way from Qt into a screen's code: nothing that the action throws gets into Qt. A failure is shown in a
     /// box. What is no failure, as ProgramEnd, ends all nested loops and is thrown on by runModal when its own loop is
     /// over.
@@ -58,6 +67,8 @@ public:
     [[noreturn]] void throwOn() const;
 
 protected:
+    /// Returns when the preview is closed or the program is ending.
+    virtual void waitWhileOpen(PreviewWindow &window);
     /// Returns when the form is closed or the program is ending. The form's window is shown and activated by then.
     virtual void waitWhileOpen(Form &form);
 
@@ -65,11 +76,15 @@ protected:
     void waitUntil(const std::function<bool()> &isOver);
     /// Lets the innermost waitUntil look again.
     void wake();
+    /// What a box or a dialogue is shown above; null before the first window.
+    [[nodiscard]] QWidget *foremost() const;
 
 private:
     friend class FormWindow;
+    friend class PreviewWindow;
 
     std::vector<FormWindow *> m_windows; ///< open ones, the topmost last
+    PreviewWindow *m_preview = nullptr;
     std::vector<QEventLoop *> m_loops;   ///< running ones, the innermost last
     quint32 m_layout = 0;                ///< the layout last asked for, 0 before
     std::exception_ptr m_thrown;         ///< what ended the program

@@ -48,6 +48,9 @@ private:
 /// Digits without sign, in a picture.
 QString placed(QStringView digits, bool negative, QStringView picture)
 {
+    if (const qsizetype second = picture.indexOf(u';'); second >= 0)
+        return negative ? placed(digits, false, picture.sliced(second + 1))
+                        : placed(digits, false, picture.first(second));
     while (!digits.isEmpty() && digits.front() == u'0')
         digits = digits.sliced(1);
 

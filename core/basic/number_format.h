@@ -13,7 +13,8 @@ namespace zrv {
 
 /// The whole number in a picture. In it "0" is a place that shows a zero when the number has no digit for it,
 /// "#" a place that then stays empty; a comma groups the digits by threes; any other letter is itself.
-/// Digits beyond the places stand before the first. A minus sign goes in front. There is never an exponent.
+/// Digits beyond the places stand before the first. A minus sign goes in front, unless a second picture behind a
+/// semicolon shows negative numbers in its own way, as "#,##0;(#,##0)" does. There is never an exponent.
 [[nodiscard]] QString Format(qint64 value, QStringView picture);
 
 /// The number rounded to a whole one, halves away from zero.

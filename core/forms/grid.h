@@ -37,6 +37,8 @@ public:
     /// New rows; the first becomes current when there is one.
     void setRows(std::shared_ptr<const RowSource> rows);
     [[nodiscard]] int rowCount() const { return m_rows ? m_rows->rowCount() : 0; }
+    /// Null before the first; a column of theirs is a column of the grid.
+    [[nodiscard]] const std::shared_ptr<const RowSource> &rows() const { return m_rows; }
     /// The cell as stored.
     [[nodiscard]] QString cell(int row, int column) const;
     /// The cell as shown, through the column's format.

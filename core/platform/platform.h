@@ -11,6 +11,7 @@
 namespace zrv {
 
 class Form;
+class Report;
 
 /// How a box looks and what it asks: a sum of these. Each screen gives its boxes' styles as the number that its
 /// users' handbook and its tests name, for example 0x90010.
@@ -53,6 +54,9 @@ public:
 
     /// Shows a text file in the system's viewer.
     virtual void viewFile(const QString &path) = 0;
+
+    /// Shows a report's pages, from where the user prints them, above all others until the user leaves it.
+    virtual void preview(const Report &report) = 0;
 
     /// Size of the display in pixels.
     virtual QSize displaySize() = 0;

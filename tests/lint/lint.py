@@ -14,7 +14,7 @@ import sys
 from pathlib import Path
 
 # What a folder may include, itself aside. Knowledge points inward: the windows know the screens, never the reverse.
-CORE_ROOMS = ("core/basic", "core/public", "core/store", "core/forms", "core/platform")
+CORE_ROOMS = ("core/basic", "core/public", "core/store", "core/forms", "core/platform", "core/report")
 CORE = ("core", *CORE_ROOMS)
 SCREENS = ("parties", "lists", "files", "upkeep")
 MAY_INCLUDE = {
@@ -23,6 +23,7 @@ MAY_INCLUDE = {
     "core/store": ("core/basic",),
     "core/forms": ("core/basic",),
     "core/platform": ("core/basic", "core/forms"),
+    "core/report": ("core/basic",),
     "core": CORE_ROOMS,
     "parties": CORE,
     "lists": (*CORE, "parties"),

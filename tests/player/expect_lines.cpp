@@ -174,14 +174,14 @@ void expectMissing(Player &player, const Line &line)
 
 void expectPrint(Player &player, const Line &line)
 {
-    std::deque<Preview> &previews = player.platform().previews;
+    auto &previews = player.platform().previews;
     const QString expected = line.text(0) + u' ' + line.text(1);
     if (previews.empty())
         failExpectation(expected, u"no preview was shown"_s);
-    const Preview &oldest = previews.front();
-    if (!line.words[0].matches(oldest.report) || numberFrom(line.text(1)) != oldest.pages.size())
-        failExpectation(expected, oldest.report + u' ' + QString::number(oldest.pages.size()));
-    player.lastPreview = oldest;
+    const Preview &oldest = *previews.front();
+    if (!line.words[0].matches(oldest.name()) || numberFrom(line.text(1)) != oldest.pageCount())
+        failExpectation(expected, oldest.name() + u' ' + QString::number(oldest.pageCount()));
+    player.lastPreview = previews.front();
     previews.pop_front();
 }
 
@@ -189,10 +189,11 @@ void expectPrintText(Player &player, const Line &line)
 {
     if (!player.lastPreview)
         failExpectation(written(line, 0), u"no preview was expected before"_s);
-    for (const QString &page : player.lastPreview->pages)
-        if (line.words[0].anywhere().matches(page))
+    const Word text = line.words[0].anywhere();
+    for (int number = 0; number < player.lastPreview->pageCount(); ++number)
+        if (text.matches(report::textOf(player.lastPreview->page(number))))
             return;
-    failExpectation(written(line, 0), u"no page of "_s + player.lastPreview->report + u" holds it"_s);
+    failExpectation(written(line, 0), u"no page of "_s + player.lastPreview->name() + u" holds it"_s);
 }
 
 } // namespace zrv::player::lines

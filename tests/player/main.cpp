@@ -13,6 +13,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
 #include <memory>
 
@@ -101,10 +102,23 @@ int play(const Options &options, Stage &stage)
     return static_cast<int>(status);
 }
 
+#ifdef ZRV_WITH_WIDGETS
+bool savesPrints(const Options &options)
+{
+    return std::ranges::any_of(readScenario(options.scenario, options.folder),
+                               [](const Line &line) { return line.command->word == u"save-print"; });
+}
+#endif
+
 int playHeadless(int &argc, char **argv, const Options &options)
 {
-    const QCoreApplication application(argc, argv);
     HeadlessStage stage;
+#ifdef ZRV_WITH_WIDGETS
+    stage.writesPdf = writePdfFile;
+    if (savesPrints(options))
+        return withFonts(argc, argv, [&] { return play(options, stage); });
+#endif
+    const QCoreApplication application(argc, argv);
     return play(options, stage);
 }
 

@@ -22,6 +22,7 @@ Player::Player(QString folder, Stage &stage, Transcript &transcript, std::functi
     m_platform.runScreen = [this](Form &form) { m_stage.runModal(form, [&] { letUserAct(form); }); };
     m_stage.attach(m_platform);
     m_platform.boxShows = [this](const Box &box) { m_stage.boxShows(box); };
+    m_platform.reportShows = [this](const Report &report) { m_stage.reportShows(report); };
     m_platform.yields = [this] { m_stage.yields(); };
 }
 

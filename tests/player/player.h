@@ -37,8 +37,8 @@ public:
     [[nodiscard]] Transcript &transcript() { return m_transcript; }
     [[nodiscard]] const QString &folder() const { return m_folder; }
     [[nodiscard]] bool programHasEnded() const { return m_programEnded; }
-    std::optional<Box> lastBox;         ///< the box just expected
-    std::optional<Preview> lastPreview; ///< the preview just expected
+    std::optional<Box> lastBox;                 ///< the box just expected
+    std::shared_ptr<const Preview> lastPreview; ///< the preview just expected; null before the first
 
     /// Runs the program; the lines behind `start` are played inside.
     void startProgram();

@@ -35,6 +35,13 @@ QString styleText(int style)
     return style >= 0x10000 ? u"0x"_s + QString::number(style, 16) : QString::number(style);
 }
 
+Preview::Preview(const Report &shown)
+    : Report(shown.name(), shown.title(), shown.paper())
+{
+    for (int number = 0; number < shown.pageCount(); ++number)
+        m_pages.push_back(shown.page(number));
+}
+
 ScriptedPlatform::ScriptedPlatform(QString folder, Transcript &transcript)
     : m_folder(std::move(folder))
     , m_transcript(transcript)
@@ -91,6 +98,14 @@ std::optional<QString> ScriptedPlatform::openFileDialog(const QString &folder, c
 void ScriptedPlatform::viewFile(const QString &path)
 {
     m_transcript.line(u"view "_s + path);
+}
+
+void ScriptedPlatform::preview(const Report &report)
+{
+    auto kept = std::make_shared<const Preview>(report);
+    m_transcript.line(u"print "_s + kept->name() + u' ' + QString::number(kept->pageCount()));
+    previews.push_back(std::move(kept));
+    reportShows(report);
 }
 
 QString ScriptedPlatform::desktopFolder()

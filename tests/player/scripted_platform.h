@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/platform/platform.h"
+#include "core/report/report.h"
 #include "tests/player/transcript.h"
 
 #include <QStringList>
 
 #include <deque>
 #include <functional>
+#include <memory>
 #include <vector>
 
 namespace zrv::player {
@@ -32,10 +34,15 @@ struct Box {
     Answer answer;
 };
 
-/// A report that was shown in the preview.
-struct Preview {
-    QString report;
-    QStringList pages; ///< the text of each page
+/// A report that was shown in the preview, kept with all its pages: what it was made from may be gone.
+class Preview : public Report {
+public:
+    explicit Preview(const Report &shown);
+    [[nodiscard]] int pageCount() const override { return static_cast<int>(m_pages.size()); }
+    [[nodiscard]] report::Page page(int number) const override { return m_pages.at(static_cast<size_t>(number)); }
+
+private:
+    std::vector<report::Page> m_pages;
 };
 
 /// A style as the transcript writes it: decimal, or hexadecimal when it has parts beyond icon and buttons.
@@ -58,11 +65,13 @@ public:
     std::function<void(Form &)> runScreen;
     /// Shows a box on the way to its answer.
     std::function<void(const Box &)> boxShows = [](const Box &) {};
+    /// Shows a report until it is left, which is at once.
+    std::function<void(const Report &)> reportShows = [](const Report &) {};
     std::function<void()> yields = [] {};
 
     // What was seen.
-    std::deque<Box> boxes;        ///< not yet expected, the oldest first
-    std::deque<Preview> previews; ///< likewise
+    std::deque<Box> boxes; ///< not yet expected, the oldest first
+    std::deque<std::shared_ptr<const Preview>> previews; ///< likewise
     /// The screen that the user acts on; null before the first and after the last.
     [[nodiscard]] Form *topmost() const { return m_screens.empty() ? nullptr : m_screens.back(); }
 
@@ -70,6 +79,7 @@ public:
     void runModal(Form &form) override;
     std::optional<QString> openFileDialog(const QString &folder, const QString &filter) override;
     void viewFile(const QString &path) override;
+    void preview(const Report &report) override;
     QSize displaySize() override { return shownDisplay; }
     QDate today() override { return shownDate; }
     QTime timeOfDay() override { return shownTime; }

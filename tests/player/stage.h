@@ -21,6 +21,8 @@ public:
     virtual void runModal(Form &form, const std::function<void()> &letUserAct) = 0;
     /// A box that the platform answers.
     virtual void boxShows(const Box &box) = 0;
+    /// A report's preview, which the user leaves at once.
+    virtual void reportShows(const Report &report) = 0;
     virtual void yields() = 0;
     /// Between two lines: what is still on its way to the screens arrives.
     virtual void settle() = 0;
@@ -44,6 +46,8 @@ public:
     virtual std::optional<QString> shownCell(const Grid &grid, int row, int column) = 0;
     /// Saves a picture of the topmost window. True without windows as well, where there is none to save.
     virtual bool picture(const QString &path) = 0;
+    /// Writes a report as a PDF.
+    virtual bool savePdf(const Report &report, const QString &path) = 0;
 };
 
 /// No window at all: the calls of Form alone.
@@ -52,6 +56,7 @@ public:
     void attach(Platform &) override {}
     void runModal(Form &form, const std::function<void()> &letUserAct) override;
     void boxShows(const Box &) override {}
+    void reportShows(const Report &) override {}
     void yields() override {}
     void settle() override {}
     bool focus(Control &control) override;
@@ -70,6 +75,10 @@ public:
     std::optional<QString> shown(const Control &, QStringView) override { return {}; }
     std::optional<QString> shownCell(const Grid &, int, int) override { return {}; }
     bool picture(const QString &) override { return true; }
+    bool savePdf(const Report &report, const QString &path) override { return writesPdf && writesPdf(report, path); }
+
+    /// Painting needs what only the window side has, though it makes no window; null where there is none.
+    std::function<bool(const Report &, const QString &)> writesPdf;
 };
 
 } // namespace zrv::player

@@ -44,4 +44,11 @@ int withWindows(int &argc, char **argv, const std::function<int(Stage &)> &play)
     return play(stage);
 }
 
+int withFonts(int &argc, char **argv, const std::function<int()> &play)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    return play();
+}
+
 } // namespace zrv::player

@@ -26,6 +26,8 @@ public:
     /// Shows the real box and presses the button that gives this answer. Raises LineFailed when the box shows anything
     /// else than it was told.
     void showBox(const Box &box);
+    /// Shows the real preview and leaves it by its key. Raises LineFailed when it does not show what it was told.
+    void showReport(const Report &report);
 
 protected:
     void waitWhileOpen(Form &form) override;
@@ -38,6 +40,7 @@ public:
     void attach(Platform &platform) override { m_platform.boxes = &platform; }
     void runModal(Form &form, const std::function<void()> &letUserAct) override;
     void boxShows(const Box &box) override { m_platform.showBox(box); }
+    void reportShows(const Report &report) override { m_platform.showReport(report); }
     void yields() override { m_platform.yield(); }
     void settle() override;
     bool focus(Control &control) override;
@@ -56,6 +59,7 @@ public:
     std::optional<QString> shown(const Control &control, QStringView property) override;
     std::optional<QString> shownCell(const Grid &grid, int row, int column) override;
     bool picture(const QString &path) override;
+    bool savePdf(const Report &report, const QString &path) override;
 
 private:
     [[nodiscard]] FormWindow &windowOf(const Form &form) const;

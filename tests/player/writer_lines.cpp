@@ -55,10 +55,13 @@ void save(Player &player, const Line &line)
 
 void savePrint(Player &player, const Line &line)
 {
-    Q_UNUSED(line);
-    if (!player.lastPreview && player.platform().previews.empty())
+    const auto &unexpected = player.platform().previews;
+    const auto shown = unexpected.empty() ? player.lastPreview : unexpected.back();
+    if (!shown)
         failLine(u"no preview was shown"_s);
-    failLine(u"previews can't be written as PDF yet"_s);
+    const QString path = player.path(line.text(0));
+    if (!player.stage().savePdf(*shown, path))
+        failLine(path + u" can't be written"_s);
 }
 
 void picture(Player &player, const Line &line)

@@ -20,6 +20,15 @@ TEST(Format, GroupsAmountsByThrees)
     EXPECT_EQ(Format(-123, u"#,##0"), u"-123");
 }
 
+TEST(Format, ShowsNegativeNumbersInTheSecondPictureWhereThereIsOne)
+{
+    EXPECT_EQ(Format(-1234567, u"#,##0;(#,##0)"), u"(1,234,567)");
+    EXPECT_EQ(Format(u"-12", u"#,##0;(#,##0)"), u"(12)");
+    EXPECT_EQ(Format(1234567, u"#,##0;(#,##0)"), u"1,234,567");
+    EXPECT_EQ(Format(0, u"#,##0;(#,##0)"), u"0");
+    EXPECT_EQ(Format(u"", u"#,##0;(#,##0)"), u"");
+}
+
 TEST(Format, HoldsWholeNumbersIn64BitsWithoutExponent)
 {
     EXPECT_EQ(Format(std::numeric_limits<qint64>::max(), u"#,##0"), u"9,223,372,036,854,775,807");

@@ -12,6 +12,7 @@ public:
     void runModal(Form &) override {}
     std::optional<QString> openFileDialog(const QString &, const QString &) override { return {}; }
     void viewFile(const QString &) override {}
+    void preview(const Report &) override {}
     QSize displaySize() override { return {1280, 1024}; }
     QDate today() override { return {2010, 5, 24}; }
     QTime timeOfDay() override { return {10, 30}; }
