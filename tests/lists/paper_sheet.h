@@ -28,6 +28,9 @@ public:
     QStringList assigned; ///< each change of a text, "name=text"
     MonthArithmetic rules{*this};
 
+    /// Empty and open, as between two payees.
+    void clear() { m_fields = {}; }
+
     /// What a user does to a field that is open: its text becomes another, the caret behind what was entered.
     void enter(MonthField field, const QString &text)
     {
