@@ -20,12 +20,13 @@ using namespace Qt::Literals::StringLiterals;
 
 class NewStore::Build {
 public:
-    Build(const QString &path, std::vector<TableShape> tables)
+    Build(const QString &path, std::vector<TableShape> tables, Place place)
         : m_path(path)
+        , m_place(place)
         , m_tables(std::move(tables))
     {
         m_temporary = temporaryName(path);
-        if (QFile::exists(path))
+        if (place == Place::Free && QFile::exists(path))
             throw RunTimeError(store_error::General,
                                u"فايل بانک اطلاعاتي قبلا ايجاد شده است و جايگزين نميگردد : "_s + path);
         if (!createPrivateFile(m_temporary))
@@ -69,7 +70,7 @@ public:
         finalizeAll();
         sqlite3_close(m_database);
         m_database = nullptr;
-        if (!giveName(m_temporary, m_path))
+        if (!(m_place == Place::Free ? giveName(m_temporary, m_path) : replaceFile(m_temporary, m_path)))
             throw RunTimeError(store_error::General,
                                u"ذخيره فايل بانک اطلاعاتي ممکن نشد . فضاي ديسک و دسترسي پوشه را بررسي نماييد : "_s
                                    + m_path);
@@ -135,6 +136,7 @@ private:
     }
 
     QString m_path;
+    Place m_place;
     QString m_temporary; ///< empty once the file has its name
     std::vector<TableShape> m_tables;
     sqlite3 *m_database = nullptr;
@@ -146,8 +148,8 @@ NewStore::NewStore(const QString &path)
 {
 }
 
-NewStore::NewStore(const QString &path, std::vector<TableShape> tables)
-    : m_build(std::make_unique<Build>(path, std::move(tables)))
+NewStore::NewStore(const QString &path, std::vector<TableShape> tables, Place place)
+    : m_build(std::make_unique<Build>(path, std::move(tables), place))
 {
 }
 

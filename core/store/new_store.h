@@ -14,13 +14,17 @@
 namespace zrv {
 
 /// A store in the making. It is built under a temporary name beside its own, readable by its owner alone, and takes
-/// its name when it is whole and on the disk; until then, and if anything fails, there is no file of that name.
+/// its name when it is whole and on the disk; until then, and if anything fails, there is no file of that name, or the
+/// old one.
 /// Failures of a row raise the store's errors, an existing file store_error::General.
 class NewStore {
 public:
+    /// What is to be under the store's name when it takes it: nothing, or a file that it replaces in one stroke.
+    enum class Place { Free, Replaced };
+
     explicit NewStore(const QString &path);
     /// A store of another shape, such as an older version's.
-    NewStore(const QString &path, std::vector<TableShape> tables);
+    NewStore(const QString &path, std::vector<TableShape> tables, Place place = Place::Free);
     ~NewStore();
     NewStore(const NewStore &) = delete;
     NewStore &operator=(const NewStore &) = delete;

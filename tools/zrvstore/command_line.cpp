@@ -61,6 +61,7 @@ const Option Options[] = {
     {u"--months",   Command::Sample, true,  [](Request &r, Words o, Words v) { r.plan.months = smallNumber(o, v, 1, 12); }},
     {u"--year",     Command::Sample, true,  [](Request &r, Words o, Words v) { r.plan.year = smallNumber(o, v, Plan::FirstYear, Plan::LastYear); }},
     {u"--rng",      Command::Sample, true,  [](Request &r, Words o, Words v) { r.plan.rng = wholeNumber(o, v, 0, ~quint64(0)); }},
+    {u"--as-stored", Command::TakeOver, false, [](Request &r, Words, Words) { r.asStored = true; }},
     {u"--all",      Command::Verify, false, [](Request &r, Words, Words) { r.all = true; }},
     {u"--force",    Command::Backup, false, [](Request &r, Words, Words) { r.force = true; }},
 };
@@ -77,6 +78,7 @@ constexpr CommandName Commands[] = {
     {u"--version", Command::Version, 0, u"--version"},
     {u"create",    Command::Create,  1, u"create DIR [--user U] [--password P]"},
     {u"sample",    Command::Sample,  1, u"sample DIR [--payees N] [--months M] [--year Y] [--rng K]"},
+    {u"takeover",  Command::TakeOver, 2, u"takeover OLD.mdb DIR [--as-stored]"},
     {u"verify",    Command::Verify,  1, u"verify DIR [--all]"},
     {u"backup",    Command::Backup,  2, u"backup DIR FILE [--force]"},
 };
@@ -131,12 +133,15 @@ Request readCommandLine(const QStringList &words)
         refuse(u"usage: zrvstore "_s + command.usage);
     request.folder = operands.value(0);
     request.file = operands.value(1);
+    if (request.command == Command::TakeOver)
+        std::swap(request.folder, request.file);
     return request;
 }
 
 QString helpText()
 {
-    QString text = u"zrvstore makes, fills, verifies and copies the store DBZorvan.mdb in the folder DIR.\n\n"_s;
+    QString text =
+        u"zrvstore makes, fills, takes over, verifies and copies the store DBZorvan.mdb in the folder DIR.\n\n"_s;
     for (const CommandName &command : Commands)
         text += u"    zrvstore "_s + command.usage + u'\n';
     return text
@@ -146,14 +151,18 @@ QString helpText()
              "         unless told otherwise. It never replaces a store.\n"
              "sample   the same, filled with invented people and figures: one payer, N payees (12; at most 1000000)\n"
              "         and the first M months (3) of the year Y (1389). The same K (1) gives the same store.\n"
+             "takeover makes a store in DIR out of the database OLD.mdb of an older version of the program: all of it,\n"
+             "         in the same shape, or nothing. It says what was taken over and what is doubtful in it. If OLD.mdb\n"
+             "         is DIR's own DBZorvan.mdb, the store replaces it, and it stays there as JetDBZorvan.mdb. Texts of\n"
+             "         an old code page are a reason not to, unless they are to be kept --as-stored.\n"
              "verify   reads the whole store and writes a line for each thing that is wrong with it, at most 20 of a\n"
              "         kind and the number of the rest, or each one with --all. Lines that begin with \"note\" are\n"
              "         nothing wrong. Whoever wants to write to the store waits meanwhile.\n"
              "backup   makes a verified copy, also while the program is open. It replaces a FILE only with --force,\n"
              "         and only when the new copy is whole and on the disk.\n"
              "\n"
-             "exit     0  done; verify: the store is sound\n"
-             "         1  verify: there are findings\n"
+             "exit     0  done; verify: the store is sound; takeover: and nothing is doubtful\n"
+             "         1  verify: there are findings; takeover: done, and something is doubtful\n"
              "         2  it can't be done: wrong words, no store, damaged or busy, disk full; one line says which\n"_s;
 }
 

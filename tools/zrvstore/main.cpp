@@ -4,6 +4,7 @@
 #include "tools/zrvstore/create.h"
 #include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/store_folder.h"
+#include "tools/zrvstore/takeover.h"
 #include "tools/zrvstore/verify.h"
 
 #include <QFile>
@@ -31,6 +32,13 @@ int verify(const Request &request)
     return findings == 0 ? 0 : 1;
 }
 
+/// 0 for a store without doubts, 1 if there is anything to say about it.
+int takeOver(const Request &request)
+{
+    const auto sink = [](const QString &line) { print(stdout, QString(line + u'\n')); };
+    return zrv::storetool::takeOver(request.file, request.folder, request.asStored, sink) == 0 ? 0 : 1;
+}
+
 int run(const Request &request)
 {
     switch (request.command) {
@@ -46,6 +54,8 @@ int run(const Request &request)
     case Command::Sample:
         createSample(request.folder, request.plan);
         return 0;
+    case Command::TakeOver:
+        return takeOver(request);
     case Command::Verify:
         return verify(request);
     case Command::Backup:

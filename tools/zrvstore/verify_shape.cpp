@@ -3,6 +3,7 @@
 
 #include "core/store/schema.h"
 #include "tools/zrvstore/failure.h"
+#include "tools/zrvstore/older_shapes.h"
 
 #include <QStringList>
 
@@ -14,50 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct ColumnName {
-    QStringView table;
-    QStringView column;
-};
-
-// clang-format off
-/// Came with later versions; the upgrade adds them to an older store.
-constexpr ColumnName Added[] = {
-    {u"ZRVtbKarfarma", u"CodeShobe"}, {u"ZRVtbKarfarma", u"ShobeName"}, {u"ZRVtbKarfarma", u"EdareName"},
-    {u"ZRVtbKarkonan", u"HomeAddress"},
-    {u"ZRVtbHogog", u"NJariSayerPardakhtiha"}, {u"ZRVtbHogog", u"NTotalDaramad"}, {u"ZRVtbHogog", u"NJariMoafiate91"},
-    {u"ZRVtbHogog", u"MaskanStatus"}, {u"ZRVtbHogog", u"MaskanMablagh"},
-    {u"ZRVtbHogog", u"OtomobilStatus"}, {u"ZRVtbHogog", u"OtomobilMablagh"},
-    {u"ZRVtbHogog", u"GTotalDaramad"}, {u"ZRVtbHogog", u"NGPTotalDaramadeMashmol"},
-    {u"ZRVtbHogog", u"SayereMoafiatha"}, {u"ZRVtbHogog", u"FinalDaramadeMashmol"},
-    {u"ZRVtbHogog", u"JariTax"}, {u"ZRVtbHogog", u"FinalTax"},
-};
-
-/// Went with later versions; the upgrade drops them from an older store.
-constexpr ColumnName Dropped[] = {
-    {u"ZRVtbHogog", u"MoafiatSum"}, {u"ZRVtbHogog", u"NJariTax"}, {u"ZRVtbHogog", u"GjariTax"},
-    {u"ZRVtbHogog", u"PjariTax"}, {u"ZRVtbHogog", u"EzafeTozih"},
-};
-
-/// No screen writes them, and a store does well without.
-constexpr ColumnName Optional[] = {
-    {u"ZRVtbKholList", u"JariEzafeTax"}, {u"ZRVtbKholList", u"GablEzafeTax"}, {u"ZRVtbKarkonan", u"IDSeri"},
-};
-
-/// Were narrower once; the program's repair widens them.
-constexpr ColumnName Widened[] = {{u"ZRVtbKarfarma", u"CodeShobe"}, {u"ZRVtbKholList", u"ChequeSeriNo"}};
-// clang-format on
-
 /// The upgrade gave the amounts of the salary list this width, which is all that the screens let in.
 constexpr int UpgradedAmount = 10;
-
-template <std::size_t Size>
-bool contains(const ColumnName (&names)[Size], const QString &table, const QString &column)
-{
-    return std::ranges::any_of(names, [&](const ColumnName &name) {
-        return name.table.compare(table, Qt::CaseInsensitive) == 0
-               && name.column.compare(column, Qt::CaseInsensitive) == 0;
-    });
-}
 
 /// "TEXT(13)" gives 13; 0 where no width stands.
 int widthOf(std::string_view type)
@@ -113,9 +72,9 @@ void checkWidth(const TableShape &table, const ColumnShape &wanted, int width, F
     const QString widths = QString::number(width) + u" wide instead of "_s + QString::number(wanted.width);
     if (width == 0)
         findings.add(finding::ColumnWidth, where, u"has no width"_s);
-    else if (contains(Widened, table.name, wanted.name))
+    else if (isWidened(table.name, wanted.name))
         findings.add(finding::ColumnWidth, where, widths + u": an older store, the program's repair widens it"_s);
-    else if (table.name == u"ZRVtbHogog" && contains(Added, table.name, wanted.name) && width >= UpgradedAmount)
+    else if (table.name == u"ZRVtbHogog" && isAdded(table.name, wanted.name) && width >= UpgradedAmount)
         findings.note(finding::ColumnWidth, where, widths + u", as an upgrade leaves it"_s);
     else
         findings.add(finding::ColumnWidth, where, widths);
@@ -124,9 +83,9 @@ void checkWidth(const TableShape &table, const ColumnShape &wanted, int width, F
 void reportMissing(const TableShape &table, const QString &column, Findings &findings)
 {
     const QString where = table.name + u' ' + column;
-    if (contains(Optional, table.name, column))
+    if (isOptional(table.name, column))
         findings.note(finding::MissingColumn, where, u"is missing; nothing needs it"_s);
-    else if (contains(Added, table.name, column))
+    else if (isAdded(table.name, column))
         findings.add(finding::MissingColumn, where, u"is missing: an older store, the program's upgrade adds it"_s);
     else
         findings.add(finding::MissingColumn, where, u"is missing"_s);
@@ -160,7 +119,7 @@ FoundTable checkTable(const Database &database, const TableShape &table, Finding
     for (const ColumnShape &column : columns) {
         if (table.column(column.name))
             continue;
-        const bool old = contains(Dropped, table.name, column.name);
+        const bool old = isDropped(table.name, column.name);
         findings.add(finding::UnknownColumn, table.name + u' ' + column.name,
                      old ? u"is of an older store, the program's upgrade drops it"_s : u"is not of this version"_s);
     }

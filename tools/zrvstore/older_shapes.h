@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// How the stores of older versions differ from one of this version, column by column. Names go without regard to case.
+
+#include <QStringView>
+
+namespace zrv::storetool {
+
+/// Came with a later version; the program's upgrade adds it to an older store.
+[[nodiscard]] bool isAdded(QStringView table, QStringView column);
+/// Went with a later version; the upgrade drops it.
+[[nodiscard]] bool isDropped(QStringView table, QStringView column);
+/// No screen writes it, and a store does well without.
+[[nodiscard]] bool isOptional(QStringView table, QStringView column);
+/// Was narrower once; the program's repair widens it.
+[[nodiscard]] bool isWidened(QStringView table, QStringView column);
+
+} // namespace zrv::storetool
