@@ -29,14 +29,30 @@ int Form::filterKey(int keyAscii)
     return keyAscii;
 }
 
+namespace {
+
+/// An Enter that nothing else has a use for begins a new line where the field has more than one.
+void breakLine(Control *active)
+{
+    auto *const box = active && active->kind() == ControlKind::TextBox ? static_cast<TextBox *>(active) : nullptr;
+    if (box && box->isMultiLine() && !box->isLocked())
+        box->insert(QString(u'\n'));
+}
+
+} // namespace
+
 /// Enter and Escape: true when the key is used up.
 bool Form::press(int keyAscii)
 {
     if (filterKey(keyAscii) == 0)
         return true;
     Button *const button = keyAscii == EnterCode ? m_default : m_cancel;
-    if (button && button->isReachable() && button->onClick)
-        button->onClick();
+    if (button && button->isReachable()) {
+        if (button->onClick)
+            button->onClick();
+    } else if (keyAscii == EnterCode) {
+        breakLine(m_active);
+    }
     return true;
 }
 

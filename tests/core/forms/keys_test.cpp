@@ -153,5 +153,43 @@ TEST(Keys, BlankClicksTheFocusedButtonAndTicksTheFocusedBox)
     EXPECT_EQ(form.diary, QStringList{u"click ok"_s});
 }
 
+/// A form with a text box of several lines.
+struct AreaForm : OpenForm {
+    AreaForm() { userFocus(area); }
+    TextBox area{*this, u"txtArea"_s, {.limit = 4, .multiLine = true}};
+};
+
+TEST(Keys, EnterBeginsANewLineWhereThereAreSeveral)
+{
+    AreaForm form;
+    type(form, u"ab"_s);
+    form.userKey(Key::Enter);
+    type(form, u"cd"_s);
+    EXPECT_EQ(form.area.text(), u"ab\nc"_s);
+}
+
+TEST(Keys, EnterBeginsNoLineWhereAFormHasAUseForIt)
+{
+    AreaForm form;
+    form.preview = [](int &key) { key = key == 13 ? 0 : key; };
+    form.userKey(Key::Enter);
+    form.preview = {};
+    form.ok.setDefault(true);
+    form.userKey(Key::Enter);
+    EXPECT_EQ(form.area.text(), QString());
+    EXPECT_TRUE(form.diary.contains(u"click ok"_s));
+}
+
+TEST(Keys, EnterBeginsNoLineInALockedFieldOrInOneOfOneLine)
+{
+    AreaForm form;
+    form.area.setLocked(true);
+    form.userKey(Key::Enter);
+    EXPECT_EQ(form.area.text(), QString());
+    form.userFocus(form.first);
+    form.userKey(Key::Enter);
+    EXPECT_EQ(form.first.text(), QString());
+}
+
 } // namespace
 } // namespace zrv
