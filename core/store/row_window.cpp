@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store/row_window.h"
 
+#include "core/store/code_table.h"
 #include "core/store/dialect/tokens.h"
 #include "core/store/dialect/translate.h"
 #include "core/store/recordset.h"
@@ -48,11 +49,14 @@ RowWindow::RowWindow(QString connectionString, const QString &select)
     const dialect::Statement statement = dialect::parse(select);
     if (!std::holds_alternative<dialect::Select>(statement))
         dialect::refuse(select);
-    const dialect::Query query = translate(std::get<dialect::Select>(statement), file, dialect::CodeLists::Joined);
+    const dialect::Query query = translate(std::get<dialect::Select>(statement), file);
     m_columns = int(query.columns.size());
     m_rowsOfIdsSql = query.rowsOfIdsSql;
+    m_codeTables = query.codeTables;
 
+    CodeTables codeTables; // before the statement, which must not outlive them
     const PreparedStatement rows = file.prepare(query.idSql.isEmpty() ? query.sql : query.idSql);
+    codeTables = bindCodeTables(rows.get(), m_codeTables);
     while (file.step(rows)) {
         if (query.idSql.isEmpty())
             m_rows.push_back(cellsOf(rows.get(), m_columns));
@@ -91,7 +95,9 @@ RowWindow::Page RowWindow::readPage(int number) const
 
     const Connection connection(m_connectionString);
     StoreFile &file = *connection.m_file;
+    CodeTables codeTables;
     const PreparedStatement statement = file.prepare(m_rowsOfIdsSql + list + u')');
+    codeTables = bindCodeTables(statement.get(), m_codeTables);
     // A join may give several results from one row; they come in the order in which the ids name them.
     std::map<qint64, std::list<QStringList>> found;
     while (file.step(statement))

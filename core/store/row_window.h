@@ -36,6 +36,7 @@ private:
 
     QString m_connectionString;
     QString m_rowsOfIdsSql;
+    QStringList m_codeTables; ///< what both statements look up
     int m_columns = 0;
     std::vector<qint64> m_ids;
     std::vector<QStringList> m_rows; ///< a query that is held whole

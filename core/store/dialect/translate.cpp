@@ -52,11 +52,11 @@ Query translate(const Select &select, Catalog &catalog, CodeLists codeLists)
                 codeTables,
                 {},
                 {}};
-    if (!written.rowId.isEmpty() && codeLists == CodeLists::Joined) {
+    if (!written.rowId.isEmpty()) {
         const QString results = written.body.chopped(written.from.size());
         query.idSql = "SELECT "_L1 + written.rowId + written.from + written.order;
-        query.rowsOfIdsSql = results + u',' + written.rowId + written.from + (select.where ? " AND "_L1 : " WHERE "_L1)
-                             + written.rowId + " IN "_L1;
+        query.rowsOfIdsSql = results + u',' + written.rowId + written.from
+                             + (written.hasCondition ? " AND "_L1 : " WHERE "_L1) + written.rowId + " IN "_L1;
     }
     return query;
 }

@@ -16,7 +16,7 @@ struct Query {
     QStringList codeTables; ///< the SQL of the tables that it looks up, by the numbers of its parameters
 
     /// Where each result comes from one row of the first table: the ids of these rows, one a result, and the results
-    /// of the ids whose list is put behind it, each with its id as a further column at the end. Only of a translation that joins all tables.
+    /// of the ids whose list is put behind it, each with its id as a further column at the end.
     QString idSql;
     QString rowsOfIdsSql;
 };

@@ -40,7 +40,8 @@ public:
             m_result.from = " FROM "_L1 + from.join(" CROSS JOIN "_L1);
         for (const Expression *part : conjuncts(m_select.where))
             addCondition(*part);
-        if (!m_where.isEmpty())
+        m_result.hasCondition = !m_where.isEmpty();
+        if (m_result.hasCondition)
             m_result.from += " WHERE "_L1 + m_where.join(" AND "_L1);
         m_result.body = (m_select.distinct ? "SELECT DISTINCT "_L1 : "SELECT "_L1) + itemList(columns) + m_result.from;
         m_result.rowId = orderOfEntry();

@@ -13,7 +13,8 @@ struct WrittenSelect {
     QString body;
     QString order; ///< " ORDER BY …" or empty
     std::vector<ScopeColumn> columns;
-    QString from;  ///< the body behind its results: " FROM …", with its condition
+    QString from; ///< the body behind its results: " FROM …", with its condition
+    bool hasCondition = false;
     QString rowId; ///< which row of the first table a result comes from; empty where results combine rows
 };
 

@@ -52,6 +52,19 @@ TEST_F(RowWindowTest, GivesTheRowsOfARecordsetInItsOrder)
     expectSameRows(Payees + u" WHERE Name LIKE '%ا%' OR MelliCode = '7919' ORDER BY val(MelliCode)"_s);
 }
 
+TEST_F(RowWindowTest, GivesWhatACodeMeansAndDropsRowsWithoutOneWhereItsListIsJoinedInner)
+{
+    addPayees(300);
+    execute(u"DELETE FROM ZRVtbCoding WHERE MCode = '2' AND SCode = '5'"_s);
+    const QString inner =
+        u"SELECT MelliCode,c.SDesc AS Semat FROM ZRVtbKarkonan,ZRVtbCoding AS c WHERE Semat = c.SCode "
+        "AND c.MCode = '2'"_s;
+    expectSameRows(Payees + u" WHERE ZRVtbCoding.SDesc LIKE '%ر%' ORDER BY ZRVtbCoding.SDesc"_s);
+    expectSameRows(inner);
+    expectSameRows(inner + u" AND Name = 'ا' ORDER BY c.SDesc DESC"_s);
+    EXPECT_LT(RowWindow(connectionString(), inner).rowCount(), 300);
+}
+
 TEST_F(RowWindowTest, HoldsAQueryThatCombinesRowsWhole)
 {
     addPayees(30);
