@@ -5,6 +5,7 @@
 #
 #   play.sh headless|widgets SCENARIO WORK BIN    WORK/headless or WORK/widgets is made afresh for it
 #   play.sh same SCENARIO WORK BIN                both have been played before
+#   play.sh display SCENARIO WORK BIN             likewise; plays it on an X display and compares that account, too
 set -euo pipefail
 way=$1 scenario=$2 work=$3 bin=$4
 
@@ -25,8 +26,13 @@ make_store() {
     esac
 }
 
+# same WAY: whether the account of that play is the headless one.
+same() {
+    diff -u --label headless <(account headless) --label "$1" <(account "$1")
+}
+
 if [ "$way" = same ]; then
-    diff -u --label headless <(account headless) --label widgets <(account widgets)
+    same widgets
     exit
 fi
 
@@ -35,7 +41,10 @@ rm -rf "$here"
 mkdir -p "$here/folder" "$here/home"
 chmod 700 "$here/home"
 make_store "$here/folder"
-options=(--folder "$here/folder" --transcript "$here/transcript")
-[ "$way" = headless ] || options+=(--widgets)
-# The windows touch no display, and neither settings nor files of whoever runs this.
-QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME=$here/home XDG_RUNTIME_DIR=$here/home exec "$bin/zrvplay" "${options[@]}" "$scenario"
+player=("$bin/zrvplay" --folder "$here/folder" --transcript "$here/transcript")
+[ "$way" = headless ] || player+=(--widgets)
+# Neither settings nor files of whoever runs this are touched, nor their display.
+export QT_QPA_PLATFORM=offscreen XDG_CONFIG_HOME=$here/home XDG_RUNTIME_DIR=$here/home
+[ "$way" = display ] || exec "${player[@]}" "$scenario"
+"${0%/*}/../on_display.sh" "${player[@]}" "$scenario"
+same display
