@@ -3,51 +3,16 @@
 
 #include "core/basic/run_time_error.h"
 #include "core/store/connection.h"
+#include "tests/tools/killed_process.h"
 #include "tests/tools/tool_fixture.h"
 #include "tools/sample/dice.h"
 #include "tools/sample/numbers.h"
 #include "tools/zrvstore/backup.h"
 
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
-
 namespace zrv::storetool {
 namespace {
 
 constexpr sample::Plan People = {.payees = 150, .months = 3, .year = 1389, .rng = 11};
-
-/// What the processes that are to be killed do, again and again.
-using Work = std::function<void(int turn)>;
-
-/// Runs work in a process of its own and kills it after so many microseconds of it. False if the work failed.
-bool killDuring(const Work &work, int microseconds)
-{
-    int pipe[2];
-    EXPECT_EQ(::pipe(pipe), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        const char begun = 1;
-        if (::write(pipe[1], &begun, 1) != 1)
-            ::_exit(2);
-        try {
-            for (int turn = 0;; ++turn)
-                work(turn);
-        } catch (const std::exception &error) {
-            (void)std::fprintf(stderr, "%s\n", error.what());
-        }
-        ::_exit(1);
-    }
-    char begun = 0;
-    EXPECT_EQ(::read(pipe[0], &begun, 1), 1);
-    ::usleep(useconds_t(microseconds));
-    ::kill(child, SIGKILL);
-    int status = 0;
-    EXPECT_EQ(::waitpid(child, &status, 0), child);
-    ::close(pipe[0]);
-    ::close(pipe[1]);
-    return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
-}
 
 class KillTest : public ToolTest {
 protected:
