@@ -67,9 +67,9 @@ void Binder::refresh(Aspect aspect)
 void Binder::refreshAll()
 {
     for (const Aspect aspect :
-         {Aspect::Columns, Aspect::Items, Aspect::Rows, Aspect::Caption, Aspect::Text, Aspect::Selection,
-          Aspect::Checked, Aspect::CurrentRow, Aspect::Page, Aspect::Colors, Aspect::ToolTip, Aspect::Locked,
-          Aspect::DefaultOrCancel, Aspect::Interval, Aspect::Enabled, Aspect::Visible})
+         {Aspect::Items, Aspect::Rows, Aspect::Caption, Aspect::Text, Aspect::Selection, Aspect::Checked,
+          Aspect::CurrentRow, Aspect::Page, Aspect::Colors, Aspect::ToolTip, Aspect::Locked, Aspect::DefaultOrCancel,
+          Aspect::Interval, Aspect::Enabled, Aspect::Visible})
         refresh(aspect);
 }
 

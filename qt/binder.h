@@ -34,7 +34,7 @@ public:
 
     /// Brings one aspect of the control to the widget.
     virtual void refresh(Aspect aspect);
-    /// Brings every aspect; called once when all widgets are made and placed.
+    /// Brings every aspect, columns with their rows; called once when all widgets are made and placed.
     void refreshAll();
 
     /// Whether the widget carries this key out itself, such as a move of the caret that marks text.

@@ -2,14 +2,15 @@
 #include "qt/grid_binder.h"
 
 #include "qt/form_window.h"
-#include "qt/look.h"
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QScopedValueRollback>
 #include <QStyledItemDelegate>
 #include <QTableView>
+
+#include <algorithm>
+#include <vector>
 
 namespace zrv {
 
@@ -87,17 +88,20 @@ private:
 } // namespace
 
 GridBinder::GridBinder(Grid &grid, FormWindow &window)
-    : Binder(grid, window)
+    : GridBinder(grid, window, *new QTableView(window.groundOf(grid.container())))
+{
+}
+
+GridBinder::GridBinder(Grid &grid, FormWindow &window, QTableView &widget)
+    : ViewBinder(grid, window, widget, Aspect::Rows)
     , m_grid(grid)
-    , m_widget(new QTableView(window.groundOf(grid.container())))
+    , m_widget(&widget)
     , m_model(new GridModel(grid, m_widget))
 {
-    adopt(*m_widget);
-    m_widget->setModel(m_model);
+    setModel(*m_model);
     m_widget->setItemDelegate(new CellDelegate(*m_model, m_widget));
     m_widget->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_widget->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_widget->setTabKeyNavigation(false);
     m_widget->setAlternatingRowColors(true);
     m_widget->setWordWrap(false);
@@ -109,28 +113,9 @@ GridBinder::GridBinder(Grid &grid, FormWindow &window)
     head.setHighlightSections(false);
     head.setDefaultAlignment(Qt::AlignCenter);
     head.setTextElideMode(Qt::ElideRight);
-    head.setResizeContentsPrecision(64);
+    head.setStretchLastSection(true);
     QObject::connect(&head, &QHeaderView::sectionClicked, m_widget,
                      [this](int column) { m_window.enter([&] { form().userHead(m_grid, column); }); });
-    QObject::connect(m_widget->selectionModel(), &QItemSelectionModel::currentChanged, m_widget,
-                     [this](const QModelIndex &current) {
-                         if (m_showing || !current.isValid())
-                             return;
-                         m_window.enter([&] { form().userRow(m_grid, current.row(), current.column()); });
-                         showCurrent();
-                     });
-    QObject::connect(m_widget, &QTableView::doubleClicked, m_widget,
-                     [this] { m_window.enter([this] { form().userDblClick(m_grid); }); });
-}
-
-QWidget *GridBinder::widget() const
-{
-    return m_widget;
-}
-
-QWidget *GridBinder::target() const
-{
-    return m_widget->viewport();
 }
 
 bool GridBinder::keepsKey(const QKeyEvent &event) const
@@ -138,56 +123,50 @@ bool GridBinder::keepsKey(const QKeyEvent &event) const
     switch (event.key()) {
     case Qt::Key_Left:
     case Qt::Key_Right:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
         return true;
     default:
-        return Binder::keepsKey(event);
+        return ViewBinder::keepsKey(event);
     }
 }
 
 /// There is a current cell whenever there are rows: a screen reader that asks for it must never get none.
 void GridBinder::showCurrent()
 {
-    const QScopedValueRollback showing(m_showing, true);
     if (m_grid.currentRow() >= 0)
         m_widget->setCurrentIndex(m_model->index(m_grid.currentRow(), m_grid.currentColumn()));
 }
 
+/// The first rows give the columns their widths, a good many of them; rows that are found later only widen what is too
+/// narrow for those in view, so that nothing jumps under the eyes of whoever types a search.
 void GridBinder::fitColumns()
 {
+    constexpr int FirstRows = 64;
+    constexpr int RowsInView = 0;
     const int count = m_model->columnCount();
-    for (int column = 0; column < count; ++column)
+    std::vector<int> widths;
+    for (int column = 0; column < count; ++column) {
         m_widget->setColumnHidden(column, !m_model->column(column).visible);
+        widths.push_back(m_fitted ? m_widget->columnWidth(column) : 0);
+    }
+    m_widget->horizontalHeader()->setResizeContentsPrecision(m_fitted ? RowsInView : FirstRows);
     m_widget->resizeColumnsToContents();
     const int widest = m_widget->fontMetrics().horizontalAdvance(u'0') * 40;
-    for (int column = 0; column < count; ++column)
-        if (m_widget->columnWidth(column) > widest)
-            m_widget->setColumnWidth(column, widest);
+    for (int column = 0; column < count; ++column) {
+        const int width = std::min(m_widget->columnWidth(column), widest);
+        m_widget->setColumnWidth(column, std::max(width, widths[static_cast<size_t>(column)]));
+    }
+    m_fitted = m_model->rowCount() > 0;
 }
 
-void GridBinder::refresh(Aspect aspect)
+void GridBinder::userMoved(const QModelIndex &current)
 {
-    switch (aspect) {
-    case Aspect::Columns:
-    case Aspect::Rows: {
-        const QScopedValueRollback showing(m_showing, true);
-        m_model->reset();
-        fitColumns();
-        showCurrent();
-        break;
-    }
-    case Aspect::CurrentRow:
-        showCurrent();
-        break;
-    case Aspect::Colors:
-        look::colorField(*m_widget, m_grid.backColor(), m_grid.textColor());
-        break;
-    default:
-        Binder::refresh(aspect);
-    }
+    form().userRow(m_grid, current.row(), current.column());
+}
+
+void GridBinder::showRows()
+{
+    m_model->reset();
+    fitColumns();
 }
 
 } // namespace zrv

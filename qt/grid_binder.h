@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "qt/binder.h"
+#include "qt/view_binder.h"
 
 class QTableView;
 
@@ -10,22 +10,24 @@ namespace zrv {
 class GridModel;
 
 /// A table whose cells are asked of the grid when they are painted, so that it opens at once with any number of rows.
-class GridBinder : public Binder {
+class GridBinder : public ViewBinder {
 public:
     GridBinder(Grid &grid, FormWindow &window);
-    [[nodiscard]] QWidget *widget() const override;
-    [[nodiscard]] QWidget *target() const override;
     [[nodiscard]] bool keepsKey(const QKeyEvent &event) const override;
-    void refresh(Aspect aspect) override;
+
+protected:
+    void userMoved(const QModelIndex &current) override;
+    void showRows() override;
+    void showCurrent() override;
 
 private:
-    void showCurrent();
+    GridBinder(Grid &grid, FormWindow &window, QTableView &widget);
     void fitColumns();
 
     Grid &m_grid;
     QTableView *m_widget;
     GridModel *m_model;
-    bool m_showing = false;
+    bool m_fitted = false; ///< the columns have the widths of rows that were seen
 };
 
 } // namespace zrv

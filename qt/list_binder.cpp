@@ -2,12 +2,10 @@
 #include "qt/list_binder.h"
 
 #include "qt/form_window.h"
-#include "qt/look.h"
 
 #include <QAbstractListModel>
 #include <QKeyEvent>
 #include <QListView>
-#include <QScopedValueRollback>
 
 #include <utility>
 
@@ -76,47 +74,18 @@ private:
 };
 
 ListBinder::ListBinder(ListBox &list, FormWindow &window)
-    : Binder(list, window)
+    : ListBinder(list, window, *new QListView(window.groundOf(list.container())))
+{
+}
+
+ListBinder::ListBinder(ListBox &list, FormWindow &window, QListView &widget)
+    : ViewBinder(list, window, widget, Aspect::Items)
     , m_list(list)
-    , m_widget(new QListView(window.groundOf(list.container())))
+    , m_widget(&widget)
     , m_model(new ListModel(list, window, m_widget))
 {
-    adopt(*m_widget);
     m_widget->setUniformItemSizes(true);
-    m_widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    m_widget->setModel(m_model);
-    QObject::connect(m_widget->selectionModel(), &QItemSelectionModel::currentChanged, m_widget,
-                     [this](const QModelIndex &current) {
-                         if (m_showing || !current.isValid())
-                             return;
-                         m_window.enter([&] { form().userChoose(m_list, current.row()); });
-                         showCurrent();
-                     });
-    QObject::connect(m_widget, &QListView::doubleClicked, m_widget,
-                     [this] { m_window.enter([this] { form().userDblClick(m_list); }); });
-}
-
-QWidget *ListBinder::widget() const
-{
-    return m_widget;
-}
-
-QWidget *ListBinder::target() const
-{
-    return m_widget->viewport();
-}
-
-bool ListBinder::keepsKey(const QKeyEvent &event) const
-{
-    switch (event.key()) {
-    case Qt::Key_Home:
-    case Qt::Key_End:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-        return true;
-    default:
-        return Binder::keepsKey(event);
-    }
+    setModel(*m_model);
 }
 
 bool ListBinder::special(QEvent &event)
@@ -131,9 +100,18 @@ bool ListBinder::special(QEvent &event)
     return true;
 }
 
+void ListBinder::userMoved(const QModelIndex &current)
+{
+    form().userChoose(m_list, current.row());
+}
+
+void ListBinder::showRows()
+{
+    m_model->update();
+}
+
 void ListBinder::showCurrent()
 {
-    const QScopedValueRollback showing(m_showing, true);
     const QModelIndex current = m_model->index(m_list.listIndex());
     if (current.isValid()) {
         m_widget->setCurrentIndex(current);
@@ -141,26 +119,6 @@ void ListBinder::showCurrent()
         // A screen reader needs a current row; nothing is marked as chosen.
         m_widget->selectionModel()->setCurrentIndex(m_model->index(0), QItemSelectionModel::NoUpdate);
         m_widget->clearSelection();
-    }
-}
-
-void ListBinder::refresh(Aspect aspect)
-{
-    switch (aspect) {
-    case Aspect::Items: {
-        const QScopedValueRollback showing(m_showing, true);
-        m_model->update();
-        showCurrent();
-        break;
-    }
-    case Aspect::CurrentRow:
-        showCurrent();
-        break;
-    case Aspect::Colors:
-        look::colorField(*m_widget, m_list.backColor(), m_list.textColor());
-        break;
-    default:
-        Binder::refresh(aspect);
     }
 }
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "qt/binder.h"
+#include "qt/view_binder.h"
 
 class QListView;
 
@@ -9,22 +9,22 @@ namespace zrv {
 
 class ListModel;
 
-class ListBinder : public Binder {
+class ListBinder : public ViewBinder {
 public:
     ListBinder(ListBox &list, FormWindow &window);
-    [[nodiscard]] QWidget *widget() const override;
-    [[nodiscard]] QWidget *target() const override;
-    [[nodiscard]] bool keepsKey(const QKeyEvent &event) const override;
-    void refresh(Aspect aspect) override;
     bool special(QEvent &event) override;
 
+protected:
+    void userMoved(const QModelIndex &current) override;
+    void showRows() override;
+    void showCurrent() override;
+
 private:
-    void showCurrent();
+    ListBinder(ListBox &list, FormWindow &window, QListView &widget);
 
     ListBox &m_list;
     QListView *m_widget;
     ListModel *m_model;
-    bool m_showing = false;
 };
 
 } // namespace zrv
