@@ -2,6 +2,7 @@
 #include "qt/button_binders.h"
 
 #include "qt/form_window.h"
+#include "qt/mnemonics.h"
 
 #include <QCheckBox>
 #include <QEvent>
@@ -41,7 +42,7 @@ void ButtonBinder::refresh(Aspect aspect)
 {
     switch (aspect) {
     case Aspect::Caption:
-        m_widget->setText(m_button.caption());
+        m_window.mnemonics().show(*m_widget, m_button);
         break;
     case Aspect::DefaultOrCancel:
         m_widget->setDefault(m_button.isDefault());

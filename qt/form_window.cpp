@@ -41,6 +41,7 @@ FormWindow::FormWindow(Form &form, QtPlatform &platform, QWidget *parent)
     : QWidget(parent, windowKind(form, parent))
     , m_form(form)
     , m_platform(platform)
+    , m_mnemonics(form)
     , m_ground(new look::Ground(this))
 {
     setObjectName(form.name());
@@ -209,6 +210,11 @@ bool FormWindow::pressed(Control &control)
 /// True when the form has taken the key; false leaves it to the widget.
 bool FormWindow::keyPressed(Binder *binder, const QKeyEvent &event)
 {
+    if (Button *const button = m_mnemonics.pressedBy(event)) {
+        if (!event.isAutoRepeat())
+            enter([&] { m_form.userClick(*button); });
+        return true;
+    }
     if (binder && binder->keepsKey(event))
         return false;
     const auto *const field = dynamic_cast<const Edit *>(m_form.activeControl());

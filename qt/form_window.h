@@ -2,6 +2,7 @@
 #pragma once
 
 #include "core/forms/form.h"
+#include "qt/mnemonics.h"
 
 #include <QWidget>
 
@@ -40,6 +41,7 @@ public:
     /// What lies around the widgets of a container: the container's own widget, or the window's ground.
     [[nodiscard]] QWidget *groundOf(Container &container) const;
     [[nodiscard]] Binder &binderOf(const Control &control) const;
+    [[nodiscard]] Mnemonics &mnemonics() { return m_mnemonics; }
     /// The bars are made when the first control asks for one.
     QMenuBar *menuBar();
     QStatusBar *statusBar();
@@ -82,6 +84,7 @@ private:
 
     Form &m_form;
     QtPlatform &m_platform;
+    Mnemonics m_mnemonics;
     QScrollArea *m_scroll = nullptr;
     QWidget *m_ground = nullptr;
     QMenuBar *m_menuBar = nullptr;

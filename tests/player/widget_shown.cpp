@@ -34,7 +34,7 @@ Shown textOf(const QWidget &input, const QWidget &widget)
     if (const auto *label = qobject_cast<const QLabel *>(&widget))
         return label->text();
     if (const auto *button = qobject_cast<const QAbstractButton *>(&widget))
-        return button->text();
+        return Mnemonics::captionOf(*button);
     if (const auto *group = qobject_cast<const QGroupBox *>(&widget))
         return group->title();
     return {};
