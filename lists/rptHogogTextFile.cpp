@@ -191,12 +191,12 @@ void rptHogogTextFile::addPageHeader(report::Page &page, int number) const
                      .bold = true,
                      .side = Side::Centre});
     addPair(page, u": تاريخ گزارشگيري", u"txtDate", Format(SolarDate(m_header.today, true), u"####/##/##"),
-            {221, Top, 70, Height}, 31);
-    addPair(page, u": صفحه ", u"PageShomare", QString::number(number + 1), {Left, Top, 40, Height}, 15);
+            {221, Top, 70, Height}, 25);
+    addPair(page, u": صفحه ", u"PageShomare", QString::number(number + 1), {Left, Top, 40, Height}, 20);
     page.items.push_back(report::Text{
         .box = {80, Second, 211, Height}, .text = m_header.txtName, .control = u"txtName", .points = 10, .bold = true});
     addPair(page, u" : تعداد کارکنان", u"txtKarkonanTedad", Format(rowCount(), AmountPicture),
-            {Left, Second, 60, Height}, 27);
+            {Left, Second, 40, Height}, 20);
 }
 
 void rptHogogTextFile::addTableHeader(report::Page &page) const
@@ -245,7 +245,7 @@ void rptHogogTextFile::addTotals(report::Page &page, double top) const
     double right = Right - CellMargin;
     for (const Total &row : Totals) {
         addPair(page, row.caption, row.field, Format(total(row.field), AmountPicture),
-                {right - Width + Gap, top + Gap, Width - Gap, Height}, 44);
+                {right - Width + Gap, top + Gap, Width - Gap, Height}, 33);
         right -= Width;
     }
 }

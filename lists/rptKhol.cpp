@@ -23,6 +23,8 @@ constexpr QStringView FigurePicture = u"#,##0;(#,##0)";
 constexpr double Left = 12;
 constexpr double Right = 198;
 constexpr double Width = Right - Left;
+constexpr double Top = 9;
+constexpr double Bottom = 288;
 constexpr double LineHeight = 7;
 
 /// A value with its caption to the right of it, in one line of the form.
@@ -40,8 +42,8 @@ struct Field {
 
 // clang-format off
 constexpr std::array Fields{
-    Field{u": ماه", u"TaxMonth", 98, 12, 24, 18, {}, LineHeight, false},
-    Field{u": سال", u"TaxYear",  98, 12, 24, 26},
+    Field{u": ماه", u"TaxMonth", 150, 11, 25, 29.5, {}, LineHeight, false},
+    Field{u": سال", u"TaxYear",  112, 11, 15, 29.5},
 
     Field{u": (TFN) شماره  پرونده", u"TFN",          Right, 40, 46, 47},
     Field{u": نام کارفرما", u"KarfarmaName", Right, 40, 146, 54, {}, LineHeight + 1, false},
@@ -91,26 +93,26 @@ struct Fixed {
 
 constexpr std::array FixedTexts{
     Fixed{u"ديوان زروان",  Right, 32, 40, 9, true, Side::Centre},
-    Fixed{u"خلاصه ليست",  150, 12, 50, 17, true, Side::Centre},
-    Fixed{u"مشخصات کــــارفرما", Right, 41, 80, 10, true},
+    Fixed{u"خلاصه ليست",  156, 11, 66, 17, true, Side::Centre},
+    Fixed{u"مشخصات کــــارفرما", Right, 40, 80, 10, true},
     Fixed{u"نحــــوه  پرداخت",   Right, 168, 80, 10, true},
 
-    Fixed{u"بدينوسيله صحت مطالب و مندرجات فوق تاييد ميشود", Right, 223, 90, 9, false, Side::Right},
-    Fixed{u"مهر و امضاء کارفرما", Right, 232, 88, 9, true, Side::Centre},
+    Fixed{u"بدينوسيله صحت مطالب و مندرجات فوق تاييد ميشود", Right, 224, 90, 9, false, Side::Right},
+    Fixed{u"مهر و امضاء کارفرما", Right, 234, 90, 9, true, Side::Centre},
 
-    Fixed{u": اين خلاصه ليست در تاريخ ", 100, 223, 42, 9, false, Side::Right, true},
-    Fixed{u": دريافت و تحت شماره ",     100, 230, 42, 9, false, Side::Right, true},
-    Fixed{u": در دفتر انديکاتور",    100, 237, 42, 9, false, Side::Right, true},
-    Fixed{u" ثبت گرديد",              38, 237, 26, 9, false, Side::Right},
-    Fixed{u"مهر و امضاء اداره امور مالياتي", 100, 246, 88, 9, true, Side::Centre},
+    Fixed{u": اين خلاصه ليست در تاريخ ", 101, 224, 42, 9, false, Side::Right, true},
+    Fixed{u": دريافت و تحت شماره ",     101, 232, 42, 9, false, Side::Right, true},
+    Fixed{u": در دفتر انديکاتور",    101, 240, 42, 9, false, Side::Right, true},
+    Fixed{u" ثبت گرديد",              36, 240, 22, 9, false, Side::Right},
+    Fixed{u"مهر و امضاء اداره امور مالياتي", 101, 250, 89, 9, true, Side::Centre},
 };
 
 /// Where the office writes by hand.
 constexpr QStringView Dots = u"..............................";
 constexpr std::array HandWritten{
-    Fixed{Dots, 58, 223, 46, 9, false, Side::Right, true},
-    Fixed{Dots, 58, 230, 46, 9, false, Side::Right, true},
-    Fixed{u"............", 58, 237, 20, 9, false, Side::Right, true},
+    Fixed{Dots, 58, 224, 46, 9, false, Side::Right, true},
+    Fixed{Dots, 58, 232, 46, 9, false, Side::Right, true},
+    Fixed{u"............", 58, 240, 20, 9, false, Side::Right, true},
 };
 
 struct Choice {
@@ -126,8 +128,9 @@ constexpr std::array Choices{
     Choice{u"ارائه ليست بدون پرداخت ماليات", u"ADAMEPARDAKHT", 122, 80},
 };
 
-/// The rules between the blocks.
-constexpr std::array RulingLines{39.5, 81.0, 148.0, 166.0, 201.0, 221.0};
+/// The rules between the blocks; the figures have frames of their own.
+constexpr std::array RulingLines{39.5, 148.0, 166.0, 201.0, 221.0};
+constexpr double HalvesLine = 105; ///< between what the payer and what the office signs
 // clang-format on
 
 /// Column widths of the figures, from right to left: words, current month, months before.
@@ -171,15 +174,15 @@ void addField(report::Page &page, const Field &field, const KholRow &row)
 
 void addHead(report::Page &page, const KholRow &row, const QString &barCode)
 {
-    page.items.push_back(report::Frame{{Left - 3, 9, Width + 6, 279}, false, 0.5});
+    page.items.push_back(report::Frame{{Left - 3, Top, Width + 6, Bottom - Top}, false, 0.5});
     page.items.push_back(report::Emblem{{Right - 30, 12, 20, 20}, u"Image2"});
-    page.items.push_back(report::Text{.box = {94, 22, 62, LineHeight + 2},
+    page.items.push_back(report::Text{.box = {90, 20, 66, LineHeight + 2},
                                       .text = row.value(u"KholListType"_s),
                                       .control = u"KholListType",
                                       .points = 12,
                                       .bold = true,
                                       .side = Side::Centre});
-    page.items.push_back(report::BarCode{{Left, 12, 74, 20}, barCode, u"Barcode1"});
+    page.items.push_back(report::BarCode{{Left, 12, 66, 20}, barCode, u"Barcode1"});
 }
 
 void addFigureRow(report::Page &page, double top, double height, const std::array<report::Text, 3> &cells)
@@ -219,13 +222,14 @@ void addFigures(report::Page &page, const KholRow &row)
 
 void addChoices(report::Page &page, const KholRow &row)
 {
-    constexpr double Top = 176;
+    constexpr double MarksTop = 176;
     constexpr double Mark = 4.5;
     for (const Choice &choice : Choices) {
-        page.items.push_back(report::CheckMark{
-            {choice.right - Mark, Top + 1.2, Mark, Mark}, Val(row.value(choice.field.toString())) == 1, choice.field});
+        page.items.push_back(report::CheckMark{{choice.right - Mark, MarksTop + 1.2, Mark, Mark},
+                                               Val(row.value(choice.field.toString())) == 1,
+                                               choice.field});
         page.items.push_back(
-            report::Text{.box = {choice.right - choice.width, Top, choice.width - Mark - 2, LineHeight},
+            report::Text{.box = {choice.right - choice.width, MarksTop, choice.width - Mark - 2, LineHeight},
                          .text = choice.caption.toString(),
                          .points = 9});
     }
@@ -287,6 +291,7 @@ report::Page rptKhol::page(int number) const
     addHead(page, m_row, barCodeText());
     for (const double y : RulingLines)
         page.items.push_back(report::Line{{Left - 3, y}, {Right + 3, y}, 0.3});
+    page.items.push_back(report::Line{{HalvesLine, RulingLines.back()}, {HalvesLine, Bottom}, 0.3});
     for (const Fixed &text : FixedTexts)
         page.items.push_back(fixedText(text));
     for (const Field &field : Fields)

@@ -85,9 +85,9 @@ private:
 
     std::vector<FormWindow *> m_windows; ///< open ones, the topmost last
     PreviewWindow *m_preview = nullptr;
-    std::vector<QEventLoop *> m_loops;   ///< running ones, the innermost last
-    quint32 m_layout = 0;                ///< the layout last asked for, 0 before
-    std::exception_ptr m_thrown;         ///< what ended the program
+    std::vector<QEventLoop *> m_loops; ///< running ones, the innermost last
+    quint32 m_layout = 0;              ///< the layout last asked for, 0 before
+    std::exception_ptr m_thrown;       ///< what ended the program
 };
 
 } // namespace zrv

@@ -69,7 +69,7 @@ struct Emblem {
 
 using Item = std::variant<Text, Line, Frame, BarCode, CheckMark, Emblem>;
 
-/// Items in the order in which they are painted, which is the order of reading as well.
+/// Items in the order in which they are painted and sought through.
 struct Page {
     std::vector<Item> items;
 };

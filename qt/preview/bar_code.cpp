@@ -12,6 +12,7 @@ std::vector<bool> code128(const QString &text)
     if (!symbol)
         return {};
     symbol->symbology = BARCODE_CODE128;
+    symbol->input_mode = UNICODE_MODE;
     const QByteArray bytes = text.toUtf8();
     const int outcome = ZBarcode_Encode(symbol.get(), reinterpret_cast<const unsigned char *>(bytes.constData()),
                                         static_cast<int>(bytes.size()));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/preview/page_painter.h"
 
+#include "core/basic/text.h"
 #include "qt/look.h"
 #include "qt/preview/bar_code.h"
 
@@ -69,7 +70,7 @@ void paintText(QPainter &painter, const report::Text &text)
     QTextOption option(side | Qt::AlignAbsolute);
     option.setTextDirection(text.leftToRight ? Qt::LeftToRight : Qt::RightToLeft);
     option.setWrapMode(QTextOption::WordWrap);
-    QTextLayout layout(text.text);
+    QTextLayout layout(trimBlanks(text.text).toString());
     double size = text.points * UnitsPerPoint;
     const double least = size * LeastWithWholeWords;
     for (;; size *= Shrink) {
@@ -93,20 +94,21 @@ void paintBarCode(QPainter &painter, const report::BarCode &code)
     const QRectF bars = code.box.adjusted(0, 0, 0, -TextHeight);
     const QRectF room = painter.deviceTransform().mapRect(inUnits(bars));
     const int count = static_cast<int>(modules.size()) + 2 * QuietModules;
-    const int module = static_cast<int>(room.width()) / count;
+    // On a screen that shows the page small, bars are less than a pixel wide and only shown, not to be read off.
+    const double module = room.width() >= count ? std::floor(room.width() / count) : room.width() / count;
     painter.save();
     painter.setWorldMatrixEnabled(false);
-    painter.setRenderHint(QPainter::Antialiasing, false);
-    const int left = static_cast<int>(std::ceil(room.left())) + QuietModules * module;
-    const int top = static_cast<int>(std::lround(room.top()));
-    const int height = static_cast<int>(std::lround(room.height()));
-    for (size_t first = 0; first < modules.size();) {
-        const size_t end = std::find(modules.begin() + static_cast<ptrdiff_t>(first), modules.end(), !modules[first])
-                           - modules.begin();
-        if (modules[first])
-            painter.fillRect(left + static_cast<int>(first) * module, top, static_cast<int>(end - first) * module,
-                             height, Qt::black);
-        first = end;
+    painter.setRenderHint(QPainter::Antialiasing, module < 1);
+    const double left = std::ceil(room.left()) + QuietModules * module;
+    const double top = std::round(room.top());
+    const double height = std::round(room.height());
+    for (auto bar = modules.begin(); bar != modules.end();) {
+        const auto end = std::find(bar, modules.end(), !*bar);
+        if (*bar)
+            painter.fillRect(QRectF(left + static_cast<double>(bar - modules.begin()) * module, top,
+                                    static_cast<double>(end - bar) * module, height),
+                             Qt::black);
+        bar = end;
     }
     painter.restore();
     // Without bars, too, the text tells what they would.

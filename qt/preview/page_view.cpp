@@ -10,14 +10,15 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace zrv {
 
 namespace {
 
 constexpr double LeastScale = 0.5;
-constexpr double MostScale = 8; ///< some 200 dots an inch
-constexpr int ImageKilobytes = 96 * 1024;
+constexpr double MostScale = 8;            ///< some 200 dots an inch
+constexpr int ImageKilobytes = 256 * 1024; ///< more than a view ever shows at once
 constexpr double WheelZoom = 1.15;
 
 } // namespace
@@ -217,25 +218,41 @@ void PageView::paintEvent(QPaintEvent *event)
     Q_UNUSED(event);
     QPainter painter(viewport());
     painter.fillRect(viewport()->rect(), palette().color(QPalette::Mid));
+    // The page that is being read is made first, its neighbours one by one when there is time again.
+    bool mayMake = true;
+    const auto image = [&](int page) -> const QImage * {
+        if (const QImage *known = m_images.object(page))
+            return known;
+        return std::exchange(mayMake, false) ? imageOf(page) : nullptr;
+    };
+    image(m_page);
+    bool isMissing = false;
     const int height = pageSize().height() + Gap;
     const int firstRow = std::max(0, (verticalScrollBar()->value() - Gap) / height);
-    const int first = firstRow * columns();
-    for (int page = first; page < m_report.pageCount(); ++page) {
+    for (int page = firstRow * columns(); page < m_report.pageCount(); ++page) {
         const QRect paper = paperOf(page);
         if (paper.top() > viewport()->height())
             break;
         painter.fillRect(paper.translated(2, 2), palette().color(QPalette::Dark));
-        if (const QImage *const image = imageOf(page))
-            painter.drawImage(paper.topLeft(), *image);
-        if (m_marked && m_marked->page == page && !m_failed) {
-            QColor light = QColor(Qt::yellow);
-            light.setAlpha(110);
-            const QRect place = placeOf(*m_marked).adjusted(-2, -2, 2, 2);
-            painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
-            painter.setBrush(light);
-            painter.drawRect(place);
-        }
+        painter.fillRect(paper, Qt::white);
+        if (const QImage *const made = image(page))
+            painter.drawImage(paper.topLeft(), *made);
+        else
+            isMissing = true;
     }
+    if (m_marked && !m_failed)
+        paintMarkOn(painter);
+    if (isMissing)
+        QTimer::singleShot(0, viewport(), qOverload<>(&QWidget::update));
+}
+
+void PageView::paintMarkOn(QPainter &painter) const
+{
+    // As a marker pen does, it leaves the letters black.
+    painter.setCompositionMode(QPainter::CompositionMode_Multiply);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.setBrush(QColor(0xFF, 0xF0, 0x6E));
+    painter.drawRect(placeOf(*m_marked).adjusted(-2, -2, 2, 2));
 }
 
 } // namespace zrv

@@ -51,7 +51,8 @@ private:
     [[nodiscard]] QSize pageSize() const;
     /// The page's paper in the viewport.
     [[nodiscard]] QRect paperOf(int page) const;
-    [[nodiscard]] const QImage *imageOf(int page);
+    const QImage *imageOf(int page);
+    void paintMarkOn(QPainter &painter) const;
     void applyFit();
     void setScale(double scale);
     void setPage(int page);

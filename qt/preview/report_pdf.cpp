@@ -3,6 +3,7 @@
 
 #include "qt/preview/page_painter.h"
 
+#include <QIODevice>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPdfWriter>
@@ -32,6 +33,8 @@ bool paintPages(const Report &report, QPagedPaintDevice &device, int resolution,
 
 bool writePdf(const Report &report, QIODevice &device, const GoesOn &goesOn)
 {
+    if (!device.isWritable())
+        return false;
     QPdfWriter writer(&device);
     writer.setTitle(report.title());
     writer.setResolution(DotsPerInch);

@@ -70,7 +70,7 @@ public:
     std::function<void()> yields = [] {};
 
     // What was seen.
-    std::deque<Box> boxes; ///< not yet expected, the oldest first
+    std::deque<Box> boxes;                               ///< not yet expected, the oldest first
     std::deque<std::shared_ptr<const Preview>> previews; ///< likewise
     /// The screen that the user acts on; null before the first and after the last.
     [[nodiscard]] Form *topmost() const { return m_screens.empty() ? nullptr : m_screens.back(); }

@@ -89,6 +89,30 @@ TEST_F(SittingTest, APreviewNobodyShowedIsMissed)
     fails("save-print a.pdf");
 }
 
+TEST_F(SittingTest, PreviewsAreExpectedInTheOrderInWhichTheyCame)
+{
+    holds("click cmdPrint\nclick cmdPrint\nexpect-print rptTest 2\nexpect-print rpt% 2\n");
+    EXPECT_EQ(lines.mid(1), (QStringList{u"print rptTest 2"_s, u"print rptTest 2"_s}));
+    fails("click cmdPrint\nexpect-print rptTest 1");
+    fails("click cmdPrint\nexpect-print rptKhol 2");
+    fails("click cmdPrint\nexpect-print rptTest 2\nexpect-print rptTest 2");
+}
+
+TEST_F(SittingTest, PreviewTextIsLookedForOnEveryPageAsOneRun)
+{
+    const QByteArray shown = "click cmdPrint\nexpect-print rptTest 2\n";
+    holds(shown + "expect-print-text \"حقوق 1389\"\nexpect-print-text \"صفحه 2\"\nexpect-print-text \"100 \\%\"\n");
+    fails(shown + "expect-print-text \"صفحه 3\"");
+    fails(shown + "expect-print-text \"1389 حقوق\"");
+    fails(shown + "expect-print-text \"1389100\"");
+}
+
+TEST_F(SittingTest, APreviewThatCannotBePaintedFailsItsLine)
+{
+    fails("click cmdPrint\nsave-print a.pdf");
+    holds("expect-missing a.pdf\n");
+}
+
 TEST_F(SittingTest, WritersLinesPrintToTheTranscript)
 {
     holds(

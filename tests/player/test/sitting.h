@@ -16,6 +16,24 @@ namespace zrv::player {
 
 using namespace Qt::Literals::StringLiterals;
 
+/// Two pages of a few words.
+class TestReport : public Report {
+public:
+    TestReport()
+        : Report(u"rptTest"_s, u"پيش نمايش"_s, A4Portrait)
+    {
+    }
+    [[nodiscard]] int pageCount() const override { return 2; }
+    [[nodiscard]] report::Page page(int number) const override
+    {
+        report::Page page;
+        page.items.push_back(
+            report::Text{.box = {10, 10, 50, 8}, .text = number == 0 ? u"ليست حقوق 1389"_s : u"100 %"_s});
+        page.items.push_back(report::Text{.box = {10, 20, 50, 8}, .text = u"صفحه "_s + QString::number(number + 1)});
+        return page;
+    }
+};
+
 /// A screen with one control of each kind that the lines act on. It writes down what happens to it.
 class TestForm : public Form {
 public:
@@ -50,6 +68,7 @@ public:
             log += inner.log;
         };
         door.onGotFocus = [this] { open.onClick(); };
+        print.onClick = [this] { m_platform.preview(TestReport()); };
         dialog.onClick = [this] { log += m_platform.openFileDialog(u"/where"_s, {}).value_or(u"none"_s); };
         grid.setColumns(
             {{.field = u"a"_s, .caption = u"A"_s}, {.field = u"b"_s, .caption = u"B"_s, .format = u"#,##0"_s}});
@@ -83,6 +102,7 @@ public:
     Button ask{*this, u"cmdAsk"_s, {.caption = u"&پرسش"_s}};
     Button tell{*this, u"cmdTell"_s};
     Button dialog{*this, u"cmdFile"_s};
+    Button print{*this, u"cmdPrint"_s};
     Button open{*this, u"cmdOpen"_s};
     Button door{*this, u"cmdDoor"_s};
     Button end{*this, u"cmdEnd"_s};
