@@ -23,8 +23,8 @@ public:
     [[nodiscard]] QString cell(int row, int column) const;
 
 private:
-    static constexpr int PageRows = 256;
-    static constexpr int PagesKept = 8;
+    static constexpr int PageRows = 64;
+    static constexpr int PagesKept = 16;
 
     struct Page {
         int number;
