@@ -47,7 +47,7 @@ StatusPanelBinder::StatusPanelBinder(StatusPanel &panel, FormWindow &window)
 {
     adopt(*m_widget);
     m_widget->setTextFormat(Qt::PlainText);
-    m_widget->setContentsMargins(8, 2, 8, 2);
+    m_widget->setIndent(8);
     const bool spring = panel.size() == StatusPanel::Size::Spring;
     // A long payer's name must not force the window wider than its screen.
     if (spring)

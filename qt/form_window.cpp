@@ -18,6 +18,7 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStatusBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -310,17 +311,19 @@ QSize FormWindow::groundSize() const
 void FormWindow::fit()
 {
     const QSize room = screen()->availableSize() - QSize(8, 40); // what a window manager draws around it
-    QSize wanted = groundSize();
-    if (wanted.width() > room.width()) {
-        for (const Control *control : m_form.controls())
-            if (auto *label = dynamic_cast<CaptionLabel *>(widgetFor(*control)))
-                label->setWordWrap(label->wordWrap() || label->isCentred());
-        m_ground->setMinimumWidth(0);
-        wanted = groundSize();
-    }
     int bars = 0;
     for (const QWidget *bar : {static_cast<QWidget *>(m_menuBar), static_cast<QWidget *>(m_statusBar)})
         bars += bar ? bar->sizeHint().height() : 0;
+    QSize wanted = groundSize();
+    const bool isHigh = wanted.height() + bars > room.height();
+    const int beside = isHigh ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+    if (wanted.width() + beside > room.width()) {
+        for (const Control *control : m_form.controls())
+            if (auto *label = dynamic_cast<CaptionLabel *>(widgetFor(*control)))
+                label->setWordWrap(label->wordWrap() || label->isCentred());
+        m_ground->setMinimumWidth(std::min(m_ground->minimumWidth(), room.width() - beside));
+        wanted = groundSize();
+    }
     if (wanted.height() + bars > room.height()) {
         scroll();
         wanted.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();

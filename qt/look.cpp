@@ -28,6 +28,7 @@ constexpr QRgb AccentPale = 0xFFDCE6E9;
 constexpr QRgb Paper = 0xFFFFFFFF;
 constexpr QRgb GroundLine = 0xFFDEDCD4; ///< the drawing behind the main form
 constexpr QRgb PaperShade = 0xFFF6F5F0;
+constexpr QRgb SearchLine = 0xFFC62828;
 
 constexpr QRgb solid(Color color)
 {
@@ -140,7 +141,8 @@ void makeRemark(QWidget &label)
 
 void makeValue(QWidget &label)
 {
-    label.setMinimumWidth(label.fontMetrics().averageCharWidth() * 16);
+    label.setMinimumWidth(label.fontMetrics().averageCharWidth() * 12);
+    label.setFixedHeight(Style::fieldHeight(label.fontMetrics()));
     QPalette colors = label.palette();
     colors.setColor(QPalette::Window, QColor::fromRgb(PaperShade));
     label.setPalette(colors);
@@ -148,6 +150,11 @@ void makeValue(QWidget &label)
     text.setFrameStyle(QFrame::StyledPanel);
     text.setMargin(2);
     text.setIndent(4);
+}
+
+void makeSearching(QWidget &field)
+{
+    field.setProperty(FrameLineColor, QColor::fromRgb(SearchLine));
 }
 
 void makeTile(QWidget &button)

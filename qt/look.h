@@ -35,6 +35,8 @@ void makeNote(QWidget &label);
 void makeRemark(QWidget &label);
 /// A value that the program shows and nobody types.
 void makeValue(QWidget &label);
+/// A field in which typing starts a search: it wears the red border by which tooltips speak of these.
+void makeSearching(QWidget &field);
 /// A button that leads to another screen: tall, so that it is found by eye.
 void makeTile(QWidget &button);
 

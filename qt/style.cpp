@@ -36,12 +36,26 @@ void paintBody(QPainter &painter, const QStyleOption &option, const QColor &grou
     paintRounded(painter, option.rect, width / 2, Radius, QPen(line, width), ground);
 }
 
+QVariant chosenLine(const QWidget *widget)
+{
+    return widget ? widget->property(FrameLineColor) : QVariant();
+}
+
 /// A group's ground and line; the line of a colour that a screen chose is the thicker one.
 void paintGroup(QPainter &painter, const QStyleOption &option, const QWidget *widget)
 {
-    const QVariant chosen = widget ? widget->property(FrameLineColor) : QVariant();
+    const QVariant chosen = chosenLine(widget);
     const QPen line = chosen.isValid() ? QPen(chosen.value<QColor>(), 2) : QPen(option.palette.color(QPalette::Mid), 1);
     paintRounded(painter, option.rect, line.widthF() / 2, Radius + 2, line, option.palette.color(QPalette::Light));
+}
+
+/// A field; a line of a colour that a screen chose stays to be seen inside the ring of the focus.
+void paintField(QPainter &painter, const QStyleOption &option, bool focused, const QWidget *widget)
+{
+    paintBody(painter, option, option.palette.color(QPalette::Base), focused);
+    if (const QVariant chosen = chosenLine(widget); chosen.isValid())
+        paintRounded(painter, option.rect, focused ? 2.75 : 0.75, focused ? Radius - 2 : Radius,
+                     QPen(chosen.value<QColor>(), 1.5), Qt::NoBrush);
 }
 
 QColor buttonGround(const QStyleOptionButton &option)
@@ -93,7 +107,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
         // The line edit inside a combo box has no frame of its own: the box draws one round both.
         if (const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option)) {
             if (frame->lineWidth > 0)
-                paintBody(*painter, *option, option->palette.color(QPalette::Base), focused);
+                paintField(*painter, *option, focused, widget);
             return;
         }
         break;
@@ -161,6 +175,22 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     const bool mirrored = combo->direction == Qt::RightToLeft;
     const QRect arrow(mirrored ? combo->rect.left() : combo->rect.right() - side, combo->rect.top(), side, side);
     paintArrow(*painter, arrow, combo->palette.color(QPalette::Text));
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
+                            const QWidget *widget) const
+{
+    QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    const auto *const group = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
+    if (control != CC_GroupBox || !group || group->text.isEmpty())
+        return rect;
+    // The title stands inside the line round the group, above its first field.
+    constexpr int Inset = 10;
+    if (part == SC_GroupBoxLabel)
+        rect.translate(group->direction == Qt::RightToLeft ? -Inset : Inset, 2);
+    else if (part == SC_GroupBoxContents)
+        rect.setTop(rect.top() - Inset);
+    return rect;
 }
 
 int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWidget *widget) const
@@ -256,13 +286,14 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, con
     if (type == CT_PushButton)
         size.rwidth() = std::max(size.width() + 2 * option->fontMetrics.averageCharWidth(),
                                  option->fontMetrics.averageCharWidth() * 14);
-    // The font's line has room for vowel signs above and below that office texts never bear; a screen of many
-    // fields has not.
-    if (type == CT_PushButton || type == CT_LineEdit || type == CT_ComboBox) {
-        const int letters = option->fontMetrics.tightBoundingRect(u"\u0622\u06AF\u064A\u062C\u0639"_s).height();
-        size.setHeight(std::min(size.height(), letters + 12));
-    }
+    if (type == CT_PushButton || type == CT_LineEdit || type == CT_ComboBox)
+        size.setHeight(std::min(size.height(), fieldHeight(option->fontMetrics)));
     return size;
+}
+
+int Style::fieldHeight(const QFontMetrics &metrics)
+{
+    return metrics.tightBoundingRect(u"\u0622\u06AF\u064A\u062C\u0639"_s).height() + 12;
 }
 
 } // namespace zrv

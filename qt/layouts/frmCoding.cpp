@@ -7,7 +7,7 @@ namespace zrv {
 void layOutCoding(LayoutBuilder &b)
 {
     // clang-format off
-    b.atLeast(100, 0);
+    b.atLeast(100, 22);
     b.fill(b.column({b.wide(b.around(u"framAll", b.column({
         b.heading(u"lblForm"),
         b.inside(u"framKey", b.line({b.fields({{u"lblSCode", u"txtSCode"}}), b.buttons({u"cmdKeyOk", u"cmdKeyReturn"}),

@@ -16,7 +16,7 @@ void layOutKarkonan(LayoutBuilder &b)
         })),
         b.inside(u"framData", b.column({
             b.fields({
-                {u"lblName", u"txtName"}, {u"lblFamily", u"txtFamily"}, {u"lblFatherName", u"txtFatherName"},
+                {u"lblName", b.searching(u"txtName")}, {u"lblFamily", b.searching(u"txtFamily")}, {u"lblFatherName", u"txtFatherName"},
                 {u"lblPostCode", u"txtPostCode"}, {u"lblSemat", u"dcbSemat"}, {u"lblSematSayer", u"txtSematSayer"},
                 {u"lblRasteh", u"dcbRasteh"}, {u"lblSabege", u"txtSabege"}, {u"lblMadrak", u"dcbMadrak"},
                 {u"lblEstekhdamType", u"dcbEstekhdamType"}, {u"lblBimehType", u"dcbBimehType"}, {u"lblBimehSayer", u"txtBimehSayer"},

@@ -7,9 +7,9 @@ namespace zrv {
 void layOutUser_Defination(LayoutBuilder &b)
 {
     // clang-format off
-    b.atLeast(115, 0);
-    b.fill(b.column({
-        b.wide(b.around(u"framAll", b.column({
+    b.atLeast(115, 22);
+    b.fill(b.over(
+        b.around(u"framAll", b.column({
             b.heading(u"lblForm"),
             b.inside(u"framKey", b.line({
                 b.fields({{u"lblUserNamee", u"txtUserNamee"}, {u"lblPasswordd", u"txtPasswordd"}}, 2),
@@ -21,13 +21,12 @@ void layOutUser_Defination(LayoutBuilder &b)
             })),
             b.wide(b.browse(u"dbgBrowser")),
             b.around(u"picButtons", b.buttons({u"cmdContinue", u"cmdChangePassword", u"cmdDelete", u"cmdExit"})),
-        }))),
+        })),
         b.inside(u"framChangPassword", b.column({
             b.fields({{u"lblOldPassword", u"txtOldPassword"}, {u"lblNewPassword", u"txtNewPassword"},
                       {u"lblConfirmNewPassword", u"txtConfirmNewPassword"}}),
             b.buttons({u"cmdSavePassword", u"cmdCancelPassword"}),
-        })),
-    }));
+        }))));
     // clang-format on
 }
 

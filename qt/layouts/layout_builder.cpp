@@ -2,18 +2,39 @@
 #include "qt/layouts/layout_builder.h"
 
 #include "qt/form_window.h"
+#include "qt/layouts/wrap_layout.h"
 #include "qt/look.h"
 
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace zrv {
 
+namespace {
+
+// On a display with less room than the layouts are drawn for, lines are wrapped and fewer things stand on one.
+constexpr int LeastRoom = 1000;
+constexpr int RoomOfAPair = 360; ///< of a label with its field
+constexpr int RoomOfATile = 260;
+constexpr int Beside = 40; ///< the window's frame and the bar by which it scrolls
+
+} // namespace
+
 LayoutBuilder::LayoutBuilder(FormWindow &window)
     : m_window(window)
+    , m_room(window.screen()->availableSize().width())
+    , m_narrow(m_room < LeastRoom)
 {
+}
+
+int LayoutBuilder::perLine(int wanted, int roomOfOne) const
+{
+    return m_narrow ? std::clamp(m_room / roomOfOne, 1, wanted) : wanted;
 }
 
 QWidget *LayoutBuilder::widget(const QString &name) const
@@ -49,36 +70,64 @@ QLayout *LayoutBuilder::column(Cells cells)
     return box;
 }
 
-QLayout *LayoutBuilder::line(Cells cells)
+QLayout *LayoutBuilder::line(const std::vector<Cell> &cells)
 {
+    if (m_narrow)
+        return wrapped(cells);
     auto *const box = new QHBoxLayout;
     for (const Cell &cell : cells)
         add(*box, cell);
     return box;
 }
 
-QLayout *LayoutBuilder::table(int columns, Cells cells)
+/// A group, and what would have taken the free room of the line, now has a line of its own.
+QLayout *LayoutBuilder::wrapped(const std::vector<Cell> &cells)
 {
+    auto *const lines = new WrapLayout;
+    for (const Cell &cell : cells) {
+        if (cell.layout) {
+            lines->addWholeLine(cell.layout);
+        } else if (cell.widget || !cell.name.isEmpty()) {
+            QWidget *const placed = cell.widget ? cell.widget : widget(cell.name);
+            if (cell.share > 0 || placed->layout())
+                lines->addWholeLine(placed);
+            else
+                lines->addWidget(placed);
+        }
+    }
+    return lines;
+}
+
+QLayout *LayoutBuilder::table(int wantedColumns, Cells cells)
+{
+    const int columns = perLine(wantedColumns, RoomOfATile);
     auto *const grid = new QGridLayout;
     int place = 0;
+    int widest = 0;
     for (const Cell &cell : cells) {
-        grid->addWidget(cell.widget ? cell.widget : widget(cell.name), place / columns, place % columns);
+        QWidget *const placed = cell.widget ? cell.widget : widget(cell.name);
+        grid->addWidget(placed, place / columns, place % columns);
+        widest = std::max(widest, placed->sizeHint().width());
         ++place;
     }
-    for (int column = 0; column < columns; ++column)
+    for (int column = 0; column < columns; ++column) {
         grid->setColumnStretch(column, 1);
+        grid->setColumnMinimumWidth(column, widest);
+    }
     return grid;
 }
 
-QLayout *LayoutBuilder::fields(std::initializer_list<std::pair<const char16_t *, Cell>> pairs, int pairsPerLine)
+QLayout *LayoutBuilder::fields(std::initializer_list<std::pair<const char16_t *, Cell>> pairs, int wantedPerLine)
 {
+    const int pairsPerLine = perLine(wantedPerLine, RoomOfAPair);
     auto *const grid = new QGridLayout;
     int place = 0;
     for (const auto &[labelName, field] : pairs) {
         QWidget *const label = widget(QString::fromUtf16(labelName));
         const int row = place / pairsPerLine;
         const int column = place % pairsPerLine * 2;
-        grid->addWidget(label, row, column);
+        // Beside its field, however long the labels above and below it are.
+        grid->addWidget(label, row, column, Qt::AlignTrailing | Qt::AlignVCenter);
         QWidget *named = field.widget;
         if (field.layout) {
             grid->addLayout(field.layout, row, column + 1);
@@ -99,22 +148,26 @@ QLayout *LayoutBuilder::fields(std::initializer_list<std::pair<const char16_t *,
 QLayout *LayoutBuilder::figures(Cells heads, std::initializer_list<std::pair<const char16_t *, Cells>> lines)
 {
     auto *const grid = new QGridLayout;
-    int column = 0;
-    for (const Cell &head : heads) {
-        grid->addWidget(widget(head.name), 0, ++column, Qt::AlignCenter);
-        grid->setColumnStretch(column, 1);
+    // Where there is little room a label stands above its figures.
+    const int firstColumn = m_narrow ? 0 : 1;
+    const int columns = static_cast<int>(heads.size());
+    for (int column = 0; column < columns; ++column) {
+        grid->addWidget(widget(heads.begin()[column].name), 0, firstColumn + column, Qt::AlignCenter);
+        grid->setColumnStretch(firstColumn + column, 1);
     }
-    int row = 0;
+    int row = 1;
     for (const auto &[labelName, cells] : lines) {
         const QString label = QString::fromUtf16(labelName);
-        grid->addWidget(widget(label), ++row, 0);
-        column = 0;
-        for (const Cell &cell : cells) {
-            QWidget *const field = widget(cell.name);
-            const QString &head = heads.begin()[column].name;
-            field->setAccessibleName(shownText(label) + u' ' + shownText(head));
-            grid->addWidget(field, row, ++column);
+        if (m_narrow)
+            grid->addWidget(widget(label), row++, 0, 1, columns);
+        else
+            grid->addWidget(widget(label), row, 0);
+        for (int column = 0; column < columns; ++column) {
+            QWidget *const field = widget(cells.begin()[column].name);
+            field->setAccessibleName(shownText(label) + u' ' + shownText(heads.begin()[column].name));
+            grid->addWidget(field, row, firstColumn + column);
         }
+        ++row;
     }
     return grid;
 }
@@ -137,33 +190,33 @@ LayoutBuilder::Cell LayoutBuilder::browse(const char16_t *grid, Cells extra)
 {
     QLayout *const options = line({u"OptNormal", u"OptSort", u"OptSearch"});
     options->setContentsMargins(0, 0, 0, 0);
-    auto *const head = static_cast<QBoxLayout *>(line({inside(u"PicOperation", options), u"chkAnd"}));
-    for (const Cell &cell : extra)
-        add(*head, cell);
-    head->addStretch(1);
-    add(*head, u"LabelGridCountCaption");
+    std::vector<Cell> head{inside(u"PicOperation", options), u"chkAnd"};
+    head.insert(head.end(), extra);
     const Cell count = value(u"LabelGridCount");
     count.widget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     count.widget->setMinimumWidth(m_window.fontMetrics().averageCharWidth() * 8);
-    add(*head, count);
+    head.insert(head.end(), {room(), u"LabelGridCountCaption", count});
     QLayout *const search =
         line({u"lblSearch", wide(u"txtSearch"), u"cmdSearch", u"cmdCancel_Search", u"lstWord_Seperator"});
     // A grid takes what is left, and stays readable where little is.
     QWidget *const rows = widget(QString::fromUtf16(grid));
     rows->setMinimumHeight(m_window.fontMetrics().height() * 9 / 2);
-    rows->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
-    return inside(u"framBrows", column({head, search, wide(grid)}));
+    // Where lines wrap, a height is reckoned that an ignored one would be missing from.
+    rows->setSizePolicy(QSizePolicy::Expanding, m_narrow ? QSizePolicy::Expanding : QSizePolicy::Ignored);
+    return inside(u"framBrows", column({line(head), search, wide(grid)}));
 }
 
 QLayout *LayoutBuilder::values(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs,
-                               int pairsPerLine)
+                               int wantedPerLine)
 {
+    const int pairsPerLine = perLine(wantedPerLine, RoomOfAPair);
     for (const auto &pair : pairs)
         look::makeValue(*widget(QString::fromUtf16(pair.second)));
     auto *const grid = new QGridLayout;
     int place = 0;
     for (const auto &[label, value] : pairs) {
-        grid->addWidget(widget(QString::fromUtf16(label)), place / pairsPerLine, place % pairsPerLine * 2);
+        grid->addWidget(widget(QString::fromUtf16(label)), place / pairsPerLine, place % pairsPerLine * 2,
+                        Qt::AlignTrailing | Qt::AlignVCenter);
         grid->addWidget(widget(QString::fromUtf16(value)), place / pairsPerLine, place % pairsPerLine * 2 + 1);
         grid->setColumnStretch(place % pairsPerLine * 2 + 1, 1);
         ++place;
@@ -173,17 +226,14 @@ QLayout *LayoutBuilder::values(std::initializer_list<std::pair<const char16_t *,
 
 QLayout *LayoutBuilder::buttons(Cells cells)
 {
-    auto *const box = new QHBoxLayout;
     int widest = 0;
     for (const Cell &cell : cells)
         widest = std::max(widest, widget(cell.name)->sizeHint().width());
-    for (const Cell &cell : cells) {
-        QWidget *const button = widget(cell.name);
-        button->setMinimumWidth(widest);
-        box->addWidget(button);
-    }
-    box->addStretch(1);
-    return box;
+    for (const Cell &cell : cells)
+        widget(cell.name)->setMinimumWidth(widest);
+    std::vector<Cell> row(cells);
+    row.push_back(room());
+    return line(row);
 }
 
 LayoutBuilder::Cell LayoutBuilder::inside(const char16_t *container, QLayout *cells)
@@ -202,6 +252,15 @@ LayoutBuilder::Cell LayoutBuilder::around(const char16_t *container, QLayout *ce
     return cell;
 }
 
+QLayout *LayoutBuilder::over(Cell below, Cell above)
+{
+    auto *const grid = new QGridLayout;
+    grid->addWidget(below.widget, 0, 0);
+    grid->addWidget(above.widget, 0, 0, Qt::AlignCenter);
+    above.widget->raise();
+    return grid;
+}
+
 LayoutBuilder::Cell LayoutBuilder::panel(QLayout *cells)
 {
     auto *const around = new look::Panel(m_window.ground());
@@ -212,9 +271,10 @@ LayoutBuilder::Cell LayoutBuilder::panel(QLayout *cells)
 QLayout *LayoutBuilder::middle(QLayout *cells)
 {
     auto *const box = new QHBoxLayout;
-    box->addStretch(1);
+    const int aside = m_narrow ? 0 : 1;
+    box->addStretch(aside);
     box->addLayout(cells, 6);
-    box->addStretch(1);
+    box->addStretch(aside);
     return box;
 }
 
@@ -259,6 +319,13 @@ LayoutBuilder::Cell LayoutBuilder::tile(const char16_t *button)
     return made;
 }
 
+LayoutBuilder::Cell LayoutBuilder::searching(const char16_t *field)
+{
+    QWidget *const made = widget(QString::fromUtf16(field));
+    look::makeSearching(*made);
+    return made;
+}
+
 void LayoutBuilder::fill(QLayout *cells)
 {
     m_window.ground()->setLayout(cells);
@@ -272,7 +339,10 @@ void LayoutBuilder::drawGround()
 void LayoutBuilder::atLeast(int letters, int lines)
 {
     const QFontMetrics metrics = m_window.fontMetrics();
-    m_window.ground()->setMinimumSize(metrics.horizontalAdvance(u'0') * letters, metrics.height() * lines);
+    if (m_narrow)
+        m_window.ground()->setMinimumWidth(std::min(metrics.horizontalAdvance(u'0') * letters, m_room - Beside));
+    else
+        m_window.ground()->setMinimumSize(metrics.horizontalAdvance(u'0') * letters, metrics.height() * lines);
 }
 
 } // namespace zrv

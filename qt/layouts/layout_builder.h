@@ -5,6 +5,7 @@
 
 #include <initializer_list>
 #include <utility>
+#include <vector>
 
 class QBoxLayout;
 class QLayout;
@@ -16,6 +17,8 @@ class FormWindow;
 
 /// The words in which a layout is written: a layout is one expression of columns, lines, fields and frames that names
 /// each control of its screen once.
+///
+/// On a display with less room than usual the same words put fewer things on a line, and wrap what is left.
 ///
 ///     b.fill(b.column({b.heading(u"LabelFormHeader"), b.inside(u"framKey", b.fields({{u"lblTFN", u"txtTFN"}}))}));
 class LayoutBuilder {
@@ -47,7 +50,7 @@ public:
 
     /// Below each other, beside each other, or so many to a line.
     QLayout *column(Cells cells);
-    QLayout *line(Cells cells);
+    QLayout *line(const std::vector<Cell> &cells);
     QLayout *table(int columns, Cells cells);
     /// Labels with their fields, so many pairs to a line. The label names its field to screen readers.
     QLayout *fields(std::initializer_list<std::pair<const char16_t *, Cell>> pairs, int pairsPerLine = 1);
@@ -67,6 +70,8 @@ public:
     Cell inside(const char16_t *container, QLayout *cells);
     /// The same for a container that needs no frame drawn: the one that holds all others, a row of buttons.
     Cell around(const char16_t *container, QLayout *cells);
+    /// A container that comes up in front of another one, no larger than it asks for.
+    QLayout *over(Cell below, Cell above);
     /// Cells on a panel of their own, without a control behind it.
     Cell panel(QLayout *cells);
     /// Cells in the middle of the window, no wider than they ask for.
@@ -80,6 +85,7 @@ public:
     Cell remark(const char16_t *label);
     Cell value(const char16_t *label);
     Cell tile(const char16_t *button);
+    Cell searching(const char16_t *field);
 
     /// The whole layout; the last word of a layout.
     void fill(QLayout *cells);
@@ -92,8 +98,12 @@ private:
     QWidget *widget(const QString &name) const;
     QString shownText(const QString &name) const;
     void add(QBoxLayout &box, const Cell &cell) const;
+    QLayout *wrapped(const std::vector<Cell> &cells);
+    [[nodiscard]] int perLine(int wanted, int roomOfOne) const;
 
     FormWindow &m_window;
+    int m_room;    ///< across the display
+    bool m_narrow; ///< less than the layouts are drawn for
 };
 
 } // namespace zrv

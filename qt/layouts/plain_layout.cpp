@@ -50,7 +50,7 @@ public:
     void addPair(QWidget &caption, QWidget &value)
     {
         begin(2);
-        m_grid.addWidget(&caption, m_line, m_column);
+        m_grid.addWidget(&caption, m_line, m_column, Qt::AlignTrailing | Qt::AlignVCenter);
         m_grid.addWidget(&value, m_line, m_column + 1);
         m_column += 2;
     }

@@ -2,6 +2,7 @@
 // A layout and its screen name the same things: no control without a place, no named widget without a control.
 #include "app/catalogue.h"
 #include "core/screen.h"
+#include "qt/layouts/wrap_layout.h"
 #include "tests/qt/window_fixture.h"
 
 #include <QLayout>
@@ -11,6 +12,7 @@
 #include <QScrollBar>
 #include <QTabWidget>
 
+#include <array>
 #include <set>
 
 namespace zrv::test {
@@ -122,13 +124,43 @@ TEST_P(LayoutOf, TheWindowStaysOnItsDisplayAndScrollsWhatIsTooHigh)
 
 TEST_P(LayoutOf, NothingIsCutSidewaysOnA1024PixelDisplay)
 {
-    ASSERT_EQ(window->screen()->size(), QSize(1024, 768));
+    // At 200 per cent half as much has room on it, and the layouts wrap.
+    ASSERT_EQ(window->screen()->size() * window->devicePixelRatioF(), QSize(1024, 768));
     window->open();
     QCoreApplication::processEvents();
     const auto *const scroll = window->findChild<QScrollArea *>();
     EXPECT_FALSE(scroll && scroll->horizontalScrollBar()->isVisible());
     const QSize needed = window->ground()->minimumSizeHint();
     EXPECT_LE(needed.width(), window->ground()->width());
+}
+
+TEST(WrappedLines, FillFromTheRightAndGoOnBelow)
+{
+    QWidget ground;
+    ground.setLayoutDirection(Qt::RightToLeft);
+    auto *const lines = new WrapLayout;
+    lines->setContentsMargins(0, 0, 0, 0);
+    lines->setSpacing(10);
+    std::array<QWidget *, 5> cells{};
+    for (QWidget *&cell : cells) {
+        cell = new QWidget(&ground);
+        cell->setFixedHeight(20);
+        cell->setMinimumWidth(100);
+    }
+    for (const size_t place : {0U, 1U, 2U})
+        lines->addWidget(cells[place]);
+    lines->addWholeLine(cells[3]);
+    lines->addWidget(cells[4]);
+    cells[1]->hide();
+    ground.setLayout(lines);
+    ground.resize(215, 200);
+    lines->activate();
+    EXPECT_EQ(cells[0]->geometry(), QRect(115, 0, 100, 20));
+    EXPECT_EQ(cells[2]->geometry(), QRect(5, 0, 100, 20));
+    EXPECT_EQ(cells[3]->geometry(), QRect(0, 30, 215, 20));
+    EXPECT_EQ(cells[4]->geometry(), QRect(115, 60, 100, 20));
+    EXPECT_EQ(lines->heightForWidth(215), 80);
+    EXPECT_EQ(lines->heightForWidth(105), 110);
 }
 
 } // namespace zrv::test

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/catalogue.h"
+#include "core/screen.h"
 #include "qt/difference.h"
 #include "qt/look.h"
 #include "tests/qt/window_fixture.h"
@@ -56,6 +58,59 @@ TEST(Look, TheFocusRingStandsOutFromTheFieldAndTheWindow)
     const QPalette palette = look::palette();
     for (const Color back : {color::Window, color::Field, color::KeyField, color::DataField, color::RequiredEmpty})
         EXPECT_GE(contrast(palette.color(QPalette::Highlight), QColor(back)), 3.0);
+}
+
+namespace {
+
+/// Whether the colour is seen in a field's border, at the middle of its side.
+bool hasBorder(QWidget &field, const QColor &color)
+{
+    const QImage image = field.grab().toImage();
+    constexpr int Border = 6;
+    for (int x = 0; x < Border; ++x) {
+        const QColor seen = image.pixelColor(x, image.height() / 2);
+        if (std::abs(seen.red() - color.red()) + std::abs(seen.green() - color.green())
+                + std::abs(seen.blue() - color.blue())
+            < 90)
+            return true;
+    }
+    return false;
+}
+
+QStringList redFields(const QString &screenName)
+{
+    QuietPlatform platform;
+    Program program(platform);
+    fillCatalogue(program.catalogue);
+    const std::unique_ptr<Screen> screen = program.catalogue.make(screenName, program);
+    const FormWindow window(*screen, platform, nullptr);
+    QStringList names;
+    for (const Control *control : screen->controls())
+        if (control->kind() == ControlKind::TextBox && hasBorder(*window.inputFor(*control), QColor(0xC62828)))
+            names += control->name();
+    return names;
+}
+
+} // namespace
+
+TEST(Look, FieldsInWhichTypingSearchesHaveARedBorder)
+{
+    EXPECT_EQ(redFields(u"frmKarkonan"_s), QStringList({u"txtName"_s, u"txtFamily"_s}));
+    EXPECT_EQ(redFields(u"frmSrcKarkonan"_s),
+              QStringList({u"txtMelliCode"_s, u"txtName"_s, u"txtFamily"_s, u"txtFatherName"_s}));
+    EXPECT_EQ(redFields(u"frmKarfarma"_s), QStringList());
+}
+
+TEST(Look, RedBorderIsSeenInsideTheFocusRing)
+{
+    QWidget window;
+    auto *const field = new QLineEdit(&window);
+    look::makeSearching(*field);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    field->setFocus();
+    EXPECT_TRUE(hasBorder(*field, look::palette().color(QPalette::Highlight)));
+    EXPECT_TRUE(hasBorder(*field, QColor(0xC62828)));
 }
 
 TEST(Difference, TheOneRunThatDiffersIsFound)
