@@ -5,9 +5,13 @@
 #include "qt/preview/preview_window.h"
 #include "tests/qt/window_fixture.h"
 
+#include <QFile>
 #include <QFileDialog>
 #include <QImage>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QProcess>
+#include <QRegularExpression>
 #include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -268,6 +272,62 @@ TEST_F(Preview, PdfIsSavedWithNoPrinterAtHand)
     EXPECT_EQ(text.count(u'\f'), 50);
     EXPECT_TRUE(text.contains(u"37"));
     EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(Preview, ItsToolAsksWhereToSaveThePdf)
+{
+    const QTemporaryDir folder;
+    QTimer::singleShot(0, qApp, [&] {
+        auto *const dialog = window.findChild<QFileDialog *>(u"fileDialog"_s);
+        ASSERT_TRUE(dialog);
+        EXPECT_TRUE(dialog->selectedFiles().constFirst().endsWith(u"/rptNumbers.pdf"));
+        dialog->selectFile(folder.filePath(u"chosen"_s));
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    toolAction(window.toolBar(), PreviewTool::SavePdf)->trigger();
+    EXPECT_TRUE(QFile::exists(folder.filePath(u"chosen.pdf"_s)));
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(Preview, PrintingAsksFirstAndCanBeCalledOff)
+{
+    bool asked = false;
+    report.made.clear();
+    QTimer::singleShot(0, qApp, [&] {
+        auto *const dialog = window.findChild<QPrintDialog *>();
+        ASSERT_TRUE(dialog);
+        asked = true;
+        EXPECT_EQ(dialog->maxPage(), 50);
+        dialog->reject();
+    });
+    press(Qt::Key_P, Qt::ControlModifier);
+    EXPECT_TRUE(asked);
+    EXPECT_TRUE(report.made.empty());
+    EXPECT_TRUE(platform.boxes.empty());
+}
+
+TEST_F(Preview, PrintingToAFileMakesTheChosenPages)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"out.pdf"_s);
+    QTimer::singleShot(0, qApp, [&] {
+        auto *const dialog = window.findChild<QPrintDialog *>();
+        ASSERT_TRUE(dialog);
+        dialog->printer()->setOutputFileName(path);
+        dialog->printer()->setPrintRange(QPrinter::PageRange);
+        dialog->printer()->setFromTo(2, 4);
+        dialog->done(QDialog::Accepted);
+    });
+    report.made.clear();
+    toolAction(window.toolBar(), PreviewTool::Print)->trigger();
+    ASSERT_TRUE(QFile::exists(path));
+    EXPECT_EQ(report.made, (std::vector<int>{1, 2, 3}));
+    QProcess reader;
+    reader.start(u"pdfinfo"_s, {path});
+    ASSERT_TRUE(reader.waitForFinished());
+    const QString facts = QString::fromUtf8(reader.readAllStandardOutput());
+    EXPECT_TRUE(facts.contains(QRegularExpression(u"Pages: +3\\b"_s))) << facts.toStdString();
+    EXPECT_TRUE(facts.contains(QRegularExpression(u"Page size: +84[12][.0-9]* x 59[56]"_s))) << facts.toStdString();
 }
 
 TEST_F(Preview, APdfThatCannotBeWrittenIsTold)
