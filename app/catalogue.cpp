@@ -13,6 +13,7 @@
 #include "parties/frmKarfarma.h"
 #include "parties/frmKarkonan.h"
 #include "parties/frmSrcKarkonan.h"
+#include "upkeep/frmUpgradeDatabaseStructureAndUpdateUserRecords.h"
 #include "upkeep/frmVersionsFacilities.h"
 
 namespace zrv {
@@ -42,6 +43,8 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmSrcKarkonan"_s, makeScreen<frmSrcKarkonan>);
     catalogue.add(u"frmTransferData"_s, makeScreen<frmTransferData>);
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
+    catalogue.add(u"frmUpgradeDatabaseStructureAndUpdateUserRecords"_s,
+                  makeScreen<frmUpgradeDatabaseStructureAndUpdateUserRecords>);
     catalogue.add(u"frmVersionsFacilities"_s, makeScreen<frmVersionsFacilities>);
 }
 

@@ -227,13 +227,26 @@ constexpr List Lists[] = {
 
 } // namespace
 
-void addFreshRows(NewStore &store, const FirstUser &user)
+std::vector<FreshCode> freshCodes()
 {
+    std::vector<FreshCode> codes;
     for (const List &list : Lists) {
         for (const Row &row : list.rows)
-            store.addRow(u"ZRVtbCoding", std::array<Value, 4>{list.number.toString(), list.description.toString(),
-                                                              row.code.toString(), row.description.toString()});
+            codes.push_back({list.number, list.description, row.code, row.description});
     }
+    return codes;
+}
+
+void addFreshRows(NewStore &store, const FirstUser &user)
+{
+    for (const auto &[list, listName, code, description] : freshCodes())
+        store.addRow(u"ZRVtbCoding", std::array<Value, 4>{list.toString(), listName.toString(), code.toString(),
+                                                          description.toString()});
+    addUser(store, user);
+}
+
+void addUser(NewStore &store, const FirstUser &user)
+{
     store.addRow(u"User_Defination", std::array<Value, 5>{user.name, user.password, u"مدير"_s, u"سيستم"_s, u"1"_s});
 }
 

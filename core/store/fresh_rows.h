@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <vector>
+
 namespace zrv {
 
 class NewStore;
@@ -12,6 +14,18 @@ struct FirstUser {
     QString name = QStringLiteral("ADMIN");
     QString password = QStringLiteral("ADMIN");
 };
+
+/// A row of a code list.
+struct FreshCode {
+    QStringView list;
+    QStringView listName;
+    QStringView code;
+    QStringView description;
+};
+
+/// The rows of the code lists of a fresh store, list by list.
+[[nodiscard]] std::vector<FreshCode> freshCodes();
+void addUser(NewStore &store, const FirstUser &user);
 
 /// Puts in what every fresh store holds: the rows of the code lists and the first user. The codes of the fixed lists
 /// are those of the tax authority's file formats; the user's own lists get a few rows to begin with. The old list 3,

@@ -170,6 +170,28 @@ QStringList StoreFile::indexColumns(const QString &index)
     return names;
 }
 
+void StoreFile::copyPages(const QString &path) const
+{
+    struct Close {
+        void operator()(sqlite3 *database) const { sqlite3_close(database); }
+    };
+    sqlite3 *opened = nullptr;
+    const int result = sqlite3_open_v2(path.toUtf8().constData(), &opened,
+                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
+    const std::unique_ptr<sqlite3, Close> target(opened);
+    // Nobody sees the copy before it is whole: it needs no journal.
+    if (result != SQLITE_OK
+        || sqlite3_exec(opened, "PRAGMA journal_mode=OFF;PRAGMA synchronous=OFF", nullptr, nullptr, nullptr)
+               != SQLITE_OK)
+        throw storeFailure(opened, path, false);
+    sqlite3_backup *const pages = sqlite3_backup_init(opened, "main", m_database, "main");
+    const bool isDone = pages && sqlite3_backup_step(pages, -1) == SQLITE_DONE;
+    if (pages)
+        sqlite3_backup_finish(pages);
+    if (!isDone)
+        throw storeFailure(opened, path, false);
+}
+
 void StoreFile::expectLargeChange()
 {
     // 256 MB at most, in KiB as the minus says: on a million rows it saves a quarter of the time, and nothing is

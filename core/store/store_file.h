@@ -42,6 +42,9 @@ public:
     /// To be called when a statement has changed the shape of tables.
     void forgetTables() { m_tables.clear(); }
 
+    /// Copies every page into a new file. Inside a transaction the copy is of that moment.
+    void copyPages(const QString &path) const;
+
     /// Gives this connection the memory that a statement over a whole table needs to be fast.
     void expectLargeChange();
 

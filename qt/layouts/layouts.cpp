@@ -29,6 +29,8 @@ constexpr Row layouts[] = {
     {QLatin1String("frmSrcKarkonan"),        layOutSrcKarkonan},
     {QLatin1String("frmTransferData"),       layOutTransferData},
     {QLatin1String("frmVersionsFacilities"), layOutVersionsFacilities},
+    {QLatin1String("frmUpgradeDatabaseStructureAndUpdateUserRecords"), layOutUpgradeDatabaseStructureAndUpdateUserRecords},
+    {QLatin1String("frmUpgradeZRVtbKarkonan"), layOutUpgradeZRVtbKarkonan},
 };
 // clang-format on
 

@@ -24,5 +24,7 @@ void layOutKarkonan(LayoutBuilder &b);
 void layOutSrcKarkonan(LayoutBuilder &b);
 void layOutTransferData(LayoutBuilder &b);
 void layOutVersionsFacilities(LayoutBuilder &b);
+void layOutUpgradeDatabaseStructureAndUpdateUserRecords(LayoutBuilder &b);
+void layOutUpgradeZRVtbKarkonan(LayoutBuilder &b);
 
 } // namespace zrv

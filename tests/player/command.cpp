@@ -18,7 +18,7 @@ const std::array Commands{
     Command{u"display"_s,           u"WIDTH HEIGHT"_s,          When::BeforeStart, lines::display,         u"the size of the display it sees (1280 1024 unless told)"_s},
     Command{u"setting"_s,           u"SECTION KEY VALUE"_s,     When::BeforeStart, lines::setting,         u"puts a program setting"_s},
     Command{u"sql"_s,               u"STATEMENT"_s,             When::Anywhere,    lines::sql,             u"runs a statement on the store; a SELECT prints its rows"_s, true},
-    Command{u"start"_s,             u""_s,                      When::BeforeStart, lines::start,           u"starts the program"_s},
+    Command{u"start"_s,             u""_s,                      When::BeforeStart, lines::start,           u"starts the program; again when it has ended"_s},
 
     Command{u"focus"_s,             u"CONTROL"_s,               When::AfterStart,  lines::focus,           u"moves the focus there"_s},
     Command{u"type"_s,              u"CONTROL TEXT"_s,          When::AfterStart,  lines::type,            u"focuses it, selects its text, presses the keys of TEXT"_s},

@@ -84,6 +84,9 @@ void Player::letUserAct(Form &form)
 
 void Player::startProgram()
 {
+    if (m_platform.topmost())
+        failLine(u"the program is running: it can be started again when it has ended"_s);
+    m_programEnded = false;
     try {
         m_program(m_platform);
     } catch (const ProgramEnd &) {

@@ -106,9 +106,8 @@ private:
     void checkOrder(const Command &command, const Place &place)
     {
         const bool starts = command.word == u"start";
-        if (command.when == When::BeforeStart && m_started)
-            place.refuse(starts ? u"a scenario starts the program once"_s
-                                : command.word + u" must stand before start"_s);
+        if (command.when == When::BeforeStart && m_started && !starts)
+            place.refuse(command.word + u" must stand before start"_s);
         if (command.when == When::AfterStart && !m_started)
             place.refuse(command.word + u" must stand behind start"_s);
         m_started = m_started || starts;

@@ -36,6 +36,23 @@ QByteArray bytesOf(const QString &path)
     return file.readAll();
 }
 
+TEST_F(SampleTest, OldStoreHasTheOldColumnsAndCodesAndOnlyCodesOfItsOwnLists)
+{
+    Sqlite store(sampleStore({.payees = 200, .months = 2, .year = 1389, .rng = 3, .old = true}, u"old"_s));
+    EXPECT_EQ(store.value(u"SELECT count(*) FROM pragma_table_info('ZRVtbKarfarma') WHERE name IN "
+                          "('CodeShobe','ShobeName','EdareName')"_s),
+              u"0"_s);
+    EXPECT_EQ(store.value(u"SELECT count(*) FROM pragma_table_info('ZRVtbHogog')"_s), u"16"_s);
+    EXPECT_EQ(store.value(u"SELECT count(DISTINCT MCode) FROM ZRVtbCoding WHERE MCode IN ('18','19')"_s), u"0"_s);
+    for (const auto &[column, list] : {std::pair{"Rasteh", "10"}, std::pair{"EstekhdamType", "15"},
+                                       std::pair{"ShakhsMoafCode", "13"}, std::pair{"BimehType", "16"}})
+        EXPECT_EQ(store.value(QString::fromLatin1("SELECT count(*) FROM ZRVtbKarkonan WHERE %1 NOT IN "
+                                                  "(SELECT SCode FROM ZRVtbCoding WHERE MCode='%2')")
+                                  .arg(QLatin1String(column), QLatin1String(list))),
+                  u"0"_s)
+            << column;
+}
+
 TEST(Dice, ThrowsAreTheSameOnEveryMachine)
 {
     sample::Dice dice(1, "person", 0);

@@ -4,6 +4,7 @@
 #include "core/store/new_store.h"
 #include "core/store/schema.h"
 #include "tools/sample/months.h"
+#include "tools/sample/old_version.h"
 #include "tools/sample/people.h"
 
 #include <algorithm>
@@ -20,20 +21,23 @@ QString text(std::string_view utf8)
     return QString::fromUtf8(utf8.data(), qsizetype(utf8.size()));
 }
 
-/// Puts rows of one kind into their table. Columns that the sample doesn't know stay NULL, as they do on the screens.
+/// Puts rows of one kind into their table. Columns that the sample doesn't know stay NULL, as they do on the screens,
+/// and what an old table has no column for is left out.
 template <typename Row>
 class Inserter {
 public:
-    Inserter(NewStore &store, const QString &table, std::span<const Column<Row>> columns)
+    Inserter(NewStore &store, const Plan &plan, const QString &table, std::span<const Column<Row>> columns)
         : m_store(store)
         , m_table(table)
     {
-        const auto shape = std::ranges::find(storeSchema(), table, &TableShape::name);
+        const auto shape = std::ranges::find(schemaOf(plan), table, &TableShape::name);
         for (const Column<Row> &column : columns) {
             const auto place = std::ranges::find(shape->columns, text(column.name), &ColumnShape::name);
-            m_cells.push_back({place - shape->columns.begin(), column.cell});
+            if (place != shape->columns.end())
+                m_cells.push_back({place - shape->columns.begin(), column.cell});
         }
-        m_values.resize(shape->columns.size());
+        for (const ColumnShape &column : shape->columns)
+            m_values.push_back(plan.old ? oldValue(column.name) : Value());
     }
 
     void add(const Row &row)
@@ -61,15 +65,17 @@ private:
 
 void addCodeRows(NewStore &store, const Plan &plan)
 {
-    for (const CodeRow &row : codeRows(plan))
+    std::vector<CodeRow> rows = plan.old ? oldCodes() : std::vector<CodeRow>();
+    std::ranges::copy(codeRows(plan), std::back_inserter(rows));
+    for (const CodeRow &row : rows)
         store.addRow(u"ZRVtbCoding",
                      std::array<Value, 4>{text(row.list), text(row.listName), text(row.code), text(row.description)});
 }
 
 void addMonths(NewStore &store, const Plan &plan, const std::string &tfn)
 {
-    Inserter<Salary> salaries(store, u"ZRVtbHogog"_s, salaryColumns());
-    Inserter<Summary> summaries(store, u"ZRVtbKholList"_s, summaryColumns());
+    Inserter<Salary> salaries(store, plan, u"ZRVtbHogog"_s, salaryColumns());
+    Inserter<Summary> summaries(store, plan, u"ZRVtbKholList"_s, summaryColumns());
     SummaryBook book(plan, tfn);
     for (int month = 1; month <= plan.months; ++month) {
         for (int number = 0; number < plan.payees; ++number) {
@@ -80,21 +86,31 @@ void addMonths(NewStore &store, const Plan &plan, const std::string &tfn)
             salaries.add(row);
             book.add(someone, row);
         }
-        summaries.add(book.close());
+        summaries.add(plan.old ? asOld(book.close()) : book.close());
     }
 }
 
 } // namespace
 
+const std::vector<TableShape> &schemaOf(const Plan &plan)
+{
+    return plan.old ? oldSchema() : storeSchema();
+}
+
 void addSampleRows(NewStore &store, const Plan &plan)
 {
-    addFreshRows(store, {});
+    if (plan.old)
+        addUser(store, {});
+    else
+        addFreshRows(store, {});
     addCodeRows(store, plan);
     const Payer theirPayer = payer(plan);
-    Inserter<Payer>(store, u"ZRVtbKarfarma"_s, payerColumns()).add(theirPayer);
-    Inserter<Payee> payees(store, u"ZRVtbKarkonan"_s, payeeColumns());
-    for (int number = 0; number < plan.payees; ++number)
-        payees.add(payee(plan, theirPayer.TFN, number));
+    Inserter<Payer>(store, plan, u"ZRVtbKarfarma"_s, payerColumns()).add(plan.old ? asOld(theirPayer) : theirPayer);
+    Inserter<Payee> payees(store, plan, u"ZRVtbKarkonan"_s, payeeColumns());
+    for (int number = 0; number < plan.payees; ++number) {
+        const Payee someone = payee(plan, theirPayer.TFN, number);
+        payees.add(plan.old ? asOld(someone) : someone);
+    }
     addMonths(store, plan, theirPayer.TFN);
 }
 

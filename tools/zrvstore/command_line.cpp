@@ -61,6 +61,7 @@ const Option Options[] = {
     {u"--months",   Command::Sample, true,  [](Request &r, Words o, Words v) { r.plan.months = smallNumber(o, v, 1, 12); }},
     {u"--year",     Command::Sample, true,  [](Request &r, Words o, Words v) { r.plan.year = smallNumber(o, v, Plan::FirstYear, Plan::LastYear); }},
     {u"--rng",      Command::Sample, true,  [](Request &r, Words o, Words v) { r.plan.rng = wholeNumber(o, v, 0, ~quint64(0)); }},
+    {u"--old",      Command::Sample, false, [](Request &r, Words, Words) { r.plan.old = true; }},
     {u"--as-stored", Command::TakeOver, false, [](Request &r, Words, Words) { r.asStored = true; }},
     {u"--all",      Command::Verify, false, [](Request &r, Words, Words) { r.all = true; }},
     {u"--force",    Command::Backup, false, [](Request &r, Words, Words) { r.force = true; }},
@@ -77,7 +78,7 @@ constexpr CommandName Commands[] = {
     {u"--help",    Command::Help,    0, u"--help"},
     {u"--version", Command::Version, 0, u"--version"},
     {u"create",    Command::Create,  1, u"create DIR [--user U] [--password P]"},
-    {u"sample",    Command::Sample,  1, u"sample DIR [--payees N] [--months M] [--year Y] [--rng K]"},
+    {u"sample",    Command::Sample,  1, u"sample DIR [--payees N] [--months M] [--year Y] [--rng K] [--old]"},
     {u"takeover",  Command::TakeOver, 2, u"takeover OLD.mdb DIR [--as-stored]"},
     {u"verify",    Command::Verify,  1, u"verify DIR [--all]"},
     {u"backup",    Command::Backup,  2, u"backup DIR FILE [--force]"},
@@ -150,7 +151,8 @@ QString helpText()
              "         U with password P: 1 to 10 Latin letters and digits each, kept as capitals; ADMIN, ADMIN\n"
              "         unless told otherwise. It never replaces a store.\n"
              "sample   the same, filled with invented people and figures: one payer, N payees (12; at most 1000000)\n"
-             "         and the first M months (3) of the year Y (1389). The same K (1) gives the same store.\n"
+             "         and the first M months (3) of the year Y (1389). The same K (1) gives the same store. With\n"
+             "         --old it is one of the program's oldest version, for its upgrade.\n"
              "takeover makes a store in DIR out of the database OLD.mdb of an older version of the program: all of it,\n"
              "         in the same shape, or nothing. It says what was taken over and what is doubtful in it. If OLD.mdb\n"
              "         is DIR's own DBZorvan.mdb, the store replaces it, and it stays there as JetDBZorvan.mdb. Texts of\n"

@@ -3,6 +3,7 @@
 
 #include "core/basic/run_time_error.h"
 #include "core/store/new_store.h"
+#include "core/store/schema.h"
 #include "tools/sample/sample_store.h"
 #include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/store_folder.h"
@@ -17,7 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 template <typename Fill>
-void make(const QString &folder, Fill fill)
+void make(const QString &folder, const std::vector<TableShape> &tables, Fill fill)
 {
     const QString path = storeIn(folder);
     if (QFileInfo::exists(path) || QFileInfo(path).isSymLink())
@@ -26,7 +27,7 @@ void make(const QString &folder, Fill fill)
     if (!QDir().mkpath(folder))
         throw Failure(u"can't make the folder "_s + folder);
     try {
-        NewStore store(path);
+        NewStore store(path, tables);
         fill(store);
         store.finish();
     } catch (const RunTimeError &error) {
@@ -38,12 +39,12 @@ void make(const QString &folder, Fill fill)
 
 void create(const QString &folder, const FirstUser &user)
 {
-    make(folder, [&](NewStore &store) { addFreshRows(store, user); });
+    make(folder, storeSchema(), [&](NewStore &store) { addFreshRows(store, user); });
 }
 
 void createSample(const QString &folder, const sample::Plan &plan)
 {
-    make(folder, [&](NewStore &store) { sample::addSampleRows(store, plan); });
+    make(folder, sample::schemaOf(plan), [&](NewStore &store) { sample::addSampleRows(store, plan); });
 }
 
 } // namespace zrv::storetool

@@ -29,6 +29,14 @@ TEST_F(SittingTest, AProgramThatEndsItselfLeavesNoCloseBehind)
     EXPECT_EQ(lines, QStringList({u"open frmTest"_s, u"open frmInner"_s, u"end"_s}));
 }
 
+TEST_F(SittingTest, AProgramThatHasEndedCanBeStartedAgain)
+{
+    holds("close\nstart\nexpect-screen frmTest\nclose\nexpect-ended\n");
+    EXPECT_EQ(lines.count(u"open frmTest"_s), 2);
+    fails("start\n");
+    EXPECT_TRUE(complaint.contains(u"the program is running"_s));
+}
+
 TEST_F(SittingTest, LinesBehindTheOneThatOpensAScreenActOnItUntilItCloses)
 {
     holds("click cmdOpen\nexpect-screen frmInner\ntype txtFirst a\nclose\nexpect-screen frmTest\n"
