@@ -13,7 +13,9 @@
 #include "parties/frmKarfarma.h"
 #include "parties/frmKarkonan.h"
 #include "parties/frmSrcKarkonan.h"
+#include "upkeep/frmMakeShobe.h"
 #include "upkeep/frmUpgradeDatabaseStructureAndUpdateUserRecords.h"
+#include "upkeep/frmUpgrades.h"
 #include "upkeep/frmVersionsFacilities.h"
 
 namespace zrv {
@@ -45,6 +47,8 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
     catalogue.add(u"frmUpgradeDatabaseStructureAndUpdateUserRecords"_s,
                   makeScreen<frmUpgradeDatabaseStructureAndUpdateUserRecords>);
+    catalogue.add(u"frmUpgrades"_s, makeScreen<frmUpgrades>);
+    catalogue.add(u"frmMakeShobe"_s, makeScreen<frmMakeShobe>);
     catalogue.add(u"frmVersionsFacilities"_s, makeScreen<frmVersionsFacilities>);
 }
 

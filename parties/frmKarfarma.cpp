@@ -6,6 +6,7 @@
 #include "core/containers.h"
 #include "core/store/recordset.h"
 #include "parties/frmKarfarma_texts.h"
+#include "parties/number_field.h"
 #include "parties/payer_columns.h"
 
 namespace zrv {
@@ -25,17 +26,6 @@ const QString GridStatement =
     "(ZRVtbCoding.MCode)= '5') LEFT JOIN ZRVtbCoding AS ZRVtbCoding_1 ON ZRVtbKarfarma.SMoadiType = "
     "ZRVtbCoding_1.SCode and (ZRVtbCoding_1.MCode)='6') LEFT JOIN ZRVtbCoding AS ZRVtbCoding_2 ON "
     "ZRVtbKarfarma.MohasebeType = ZRVtbCoding_2.SCode and (ZRVtbCoding_2.MCode)='7'"_s;
-
-/// A number field is replaced by its value when it is left: leading zeros go, and nothing but zeros becomes empty.
-void normalizeNumber(Edit &field)
-{
-    qsizetype digits = 0;
-    const QString text = field.text().trimmed();
-    while (digits < text.size() && text.at(digits) >= u'0' && text.at(digits) <= u'9')
-        ++digits;
-    const double value = Val(QStringView(text).first(digits));
-    field.setText(value > 0 ? numberText(value) : QString());
-}
 
 } // namespace
 

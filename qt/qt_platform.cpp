@@ -182,6 +182,11 @@ QString QtPlatform::programFolder()
     return QCoreApplication::applicationDirPath();
 }
 
+QString QtPlatform::programFile()
+{
+    return QCoreApplication::applicationFilePath();
+}
+
 QString QtPlatform::desktopFolder()
 {
     return QStandardPaths::writableLocation(QStandardPaths::DesktopLocation);

@@ -39,6 +39,7 @@ public:
     QDate today() override;
     QTime timeOfDay() override;
     QString programFolder() override;
+    QString programFile() override;
     QString desktopFolder() override;
     QString setting(const QString &section, const QString &key, const QString &fallback) override;
     void saveSetting(const QString &section, const QString &key, const QString &value) override;

@@ -64,6 +64,8 @@ public:
     virtual QTime timeOfDay() = 0;
     /// The folder that holds the program and its store, without a separator behind it.
     virtual QString programFolder() = 0;
+    /// The file that starts the program.
+    virtual QString programFile() = 0;
     virtual QString desktopFolder() = 0;
 
     /// A per-user setting of the program; `fallback` when it was never saved.

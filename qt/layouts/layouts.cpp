@@ -31,6 +31,8 @@ constexpr Row layouts[] = {
     {QLatin1String("frmVersionsFacilities"), layOutVersionsFacilities},
     {QLatin1String("frmUpgradeDatabaseStructureAndUpdateUserRecords"), layOutUpgradeDatabaseStructureAndUpdateUserRecords},
     {QLatin1String("frmUpgradeZRVtbKarkonan"), layOutUpgradeZRVtbKarkonan},
+    {QLatin1String("frmUpgrades"), layOutUpgrades},
+    {QLatin1String("frmMakeShobe"), layOutMakeShobe},
 };
 // clang-format on
 

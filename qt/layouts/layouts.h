@@ -26,5 +26,7 @@ void layOutTransferData(LayoutBuilder &b);
 void layOutVersionsFacilities(LayoutBuilder &b);
 void layOutUpgradeDatabaseStructureAndUpdateUserRecords(LayoutBuilder &b);
 void layOutUpgradeZRVtbKarkonan(LayoutBuilder &b);
+void layOutUpgrades(LayoutBuilder &b);
+void layOutMakeShobe(LayoutBuilder &b);
 
 } // namespace zrv

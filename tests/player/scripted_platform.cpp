@@ -4,6 +4,7 @@
 #include "core/forms/form.h"
 #include "tests/player/word.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QSettings>
 
@@ -106,6 +107,13 @@ void ScriptedPlatform::preview(const Report &report)
     m_transcript.line(u"print "_s + kept->name() + u' ' + QString::number(kept->pageCount()));
     previews.push_back(std::move(kept));
     reportShows(report);
+}
+
+QString ScriptedPlatform::programFile()
+{
+    // A sitting's folder need not hold the program: the player stands in for it.
+    const QString program = m_folder + u"/ZRVClient"_s;
+    return QFile::exists(program) ? program : QCoreApplication::applicationFilePath();
 }
 
 QString ScriptedPlatform::desktopFolder()

@@ -84,6 +84,7 @@ public:
     QDate today() override { return shownDate; }
     QTime timeOfDay() override { return shownTime; }
     QString programFolder() override { return m_folder; }
+    QString programFile() override;
     QString desktopFolder() override;
     QString setting(const QString &section, const QString &key, const QString &fallback) override;
     void saveSetting(const QString &section, const QString &key, const QString &value) override;

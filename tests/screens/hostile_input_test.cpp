@@ -15,6 +15,8 @@
 #include "tests/print_text.h"
 #include "tests/screens/hostile_texts.h"
 #include "tests/screens/screen_stage.h"
+#include "upkeep/frmMakeShobe.h"
+#include "upkeep/frmUpgrades.h"
 
 #include <QFile>
 #include <QMap>
@@ -79,6 +81,9 @@ const std::vector<Stage> Stages{
     {"PayerNatural",  make<frmKarfarma>,       NaturalPayer, u"cmdDataOk", true},
     {"PayerSearch",   make<frmKarfarma>,       {{u"chkAutoSearch"}, {u"OptSearch"}, {u"dbgLetter_Topic", u"3"}}, u"cmdSearch"},
     {"Transfer",      make<frmTransferData>,   {{u"dcbSourceYear", u"1389"}, {u"dcbSourceMonth", u"12"}, {u"txtDestinationYear", u"1390"}, {u"dcbDestinationMonth", u"01"}}, u"cmdDisplayInformation", false, {}, {u"INSERT INTO ZRVtbHogog (TFN,MelliCode,TaxYear,TaxMonth) VALUES ('','1','1389','12')"}},
+    {"Branches",      make<frmMakeShobe>,      {}, u"cmdExit"},
+    {"RepairOfKey",   make<frmUpgrades>,       {{u"optUpgrades(2)"}}, u"cmdUpgrades"},
+    {"RepairOfCode",  make<frmUpgrades>,       {{u"optUpgrades(3)"}}, u"cmdUpgrades"},
 };
 // clang-format on
 

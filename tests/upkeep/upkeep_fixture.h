@@ -53,6 +53,7 @@ public:
     }
     void runModal(Form &form) override { onModal(form); }
     QString programFolder() override { return m_folder; }
+    QString programFile() override { return m_folder + u"/ZRVClient"_s; }
     QString desktopFolder() override { return m_folder + u"/Desktop"_s; }
     QString setting(const QString &section, const QString &key, const QString &fallback) override
     {

@@ -17,6 +17,7 @@ public:
     QDate today() override { return {2010, 5, 24}; }
     QTime timeOfDay() override { return {10, 30}; }
     QString programFolder() override { return {}; }
+    QString programFile() override { return {}; }
     QString desktopFolder() override { return {}; }
     QString setting(const QString &, const QString &, const QString &fallback) override { return fallback; }
     void saveSetting(const QString &, const QString &, const QString &) override {}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/layouts/layout_builder.h"
+#include "qt/layouts/layouts.h"
+
+namespace zrv {
+
+void layOutUpgrades(LayoutBuilder &b)
+{
+    // clang-format off
+    b.atLeast(100, 20);
+    b.fill(b.column({
+        b.panel(b.column({
+            u"optUpgrades(0)",
+            u"optUpgrades(1)",
+            b.line({u"optUpgrades(2)", u"lblOldTFN", u"lblNewTFN", u"txtNewTFN", b.room()}),
+            b.line({u"optUpgrades(3)", u"lblOldCodeShobe", u"lblNewCodeShobe", u"txtNewCodeShobe", b.room()}),
+            u"optUpgrades(4)",
+        })),
+        b.wide(u"txtLog"),
+        b.buttons({u"cmdUpgrades", u"cmdExit"}),
+    }));
+    // clang-format on
+}
+
+} // namespace zrv
