@@ -76,9 +76,8 @@ inline QString writtenReport(const Report &report)
 
 /// A text that differs from the approved one is left beside it with ".received" behind its name; approving it is moving
 /// it there, after a look at every line.
-inline void compareWithApproved(const QString &received, const QString &name)
+inline void compareWithApproved(const QString &received, const QString &path)
 {
-    const QString path = QStringLiteral(ZRV_SOURCE_DIR "/tests/lists/approved/") + name;
     QFile approved(path);
     const bool readable = approved.open(QIODevice::ReadOnly);
     if (readable && QString::fromUtf8(approved.readAll()) == received) {
