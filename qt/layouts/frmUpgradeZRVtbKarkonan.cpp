@@ -7,15 +7,15 @@ namespace zrv {
 void layOutUpgradeZRVtbKarkonan(LayoutBuilder &b)
 {
     // clang-format off
-    b.atLeast(115, 26);
+    b.atLeast(115, 0);
     b.fill(b.column({
-        u"lstJobs",
+        b.rows(u"lstJobs", 5),
         b.heading(u"lblForm"),
-        b.remark(u"lblMessage"),
-        b.wide(u"dbgLetter_Topic", 2),
+        b.paragraph(u"lblMessage", 3),
+        b.wide(u"dbgLetter_Topic"),
         b.line({u"LabelGridCountCaption", u"LabelGridCount", b.room()}),
-        b.tile(u"cmdDeleteAndUpdate"),
-        b.tile(u"cmdOnlyDelete"),
+        u"cmdDeleteAndUpdate",
+        u"cmdOnlyDelete",
         b.buttons({u"cmdExit"}),
     }));
     // clang-format on

@@ -12,8 +12,8 @@ void layOutUpgrades(LayoutBuilder &b)
         b.panel(b.column({
             u"optUpgrades(0)",
             u"optUpgrades(1)",
-            b.line({u"optUpgrades(2)", u"lblOldTFN", u"lblNewTFN", u"txtNewTFN", b.room()}),
-            b.line({u"optUpgrades(3)", u"lblOldCodeShobe", u"lblNewCodeShobe", u"txtNewCodeShobe", b.room()}),
+            b.line({u"optUpgrades(2)", b.wide(b.value(u"lblOldTFN")), u"lblNewTFN", b.wide(u"txtNewTFN")}),
+            b.line({u"optUpgrades(3)", b.wide(b.value(u"lblOldCodeShobe")), u"lblNewCodeShobe", b.wide(u"txtNewCodeShobe")}),
             u"optUpgrades(4)",
         })),
         b.wide(u"txtLog"),

@@ -312,6 +312,21 @@ LayoutBuilder::Cell LayoutBuilder::value(const char16_t *label)
     return made;
 }
 
+LayoutBuilder::Cell LayoutBuilder::paragraph(const char16_t *label, int lines)
+{
+    QWidget *const made = widget(QString::fromUtf16(label));
+    static_cast<QLabel *>(made)->setWordWrap(true);
+    made->setMinimumHeight(made->fontMetrics().lineSpacing() * lines);
+    return made;
+}
+
+LayoutBuilder::Cell LayoutBuilder::rows(const char16_t *list, int count)
+{
+    QWidget *const made = widget(QString::fromUtf16(list));
+    made->setFixedHeight(made->fontMetrics().height() * 3 / 2 * count);
+    return made;
+}
+
 LayoutBuilder::Cell LayoutBuilder::tile(const char16_t *button)
 {
     QWidget *const made = widget(QString::fromUtf16(button));

@@ -84,6 +84,10 @@ public:
     Cell note(const char16_t *label);
     Cell remark(const char16_t *label);
     Cell value(const char16_t *label);
+    /// A text that comes later and may be long: it wraps, and has room for so many lines.
+    Cell paragraph(const char16_t *label, int lines);
+    /// A list of so many rows.
+    Cell rows(const char16_t *list, int count);
     Cell tile(const char16_t *button);
     Cell searching(const char16_t *field);
 
