@@ -179,6 +179,8 @@ QLayout *LayoutBuilder::date(const char16_t *prefix)
     box->setDirection(QBoxLayout::LeftToRight);
     const QFontMetrics metrics = m_window.fontMetrics();
     for (const auto &[end, digits] : {std::pair{"_Year", 4}, std::pair{"_Month", 2}, std::pair{"_Day", 2}}) {
+        if (box->count() > 0)
+            box->addWidget(new QLabel(QStringLiteral("/")));
         QWidget *const field = widget(begin + QLatin1String(end));
         field->setMaximumWidth(metrics.horizontalAdvance(u'0') * (digits + 4));
         box->addWidget(field);
@@ -338,6 +340,14 @@ LayoutBuilder::Cell LayoutBuilder::searching(const char16_t *field)
 {
     QWidget *const made = widget(QString::fromUtf16(field));
     look::makeSearching(*made);
+    return made;
+}
+
+LayoutBuilder::Cell LayoutBuilder::small(const char16_t *button)
+{
+    QWidget *const made = widget(QString::fromUtf16(button));
+    made->setFixedWidth(
+        m_window.fontMetrics().horizontalAdvance(shownText(QString::fromUtf16(button)) + QStringLiteral("000000")));
     return made;
 }
 

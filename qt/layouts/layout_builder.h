@@ -56,8 +56,8 @@ public:
     QLayout *fields(std::initializer_list<std::pair<const char16_t *, Cell>> pairs, int pairsPerLine = 1);
     /// A field under each head in the line of each label; head and label together name it to screen readers.
     QLayout *figures(Cells heads, std::initializer_list<std::pair<const char16_t *, Cells>> lines);
-    /// The three boxes of a date, by what their names begin with: year, month and day from left to right, as dates
-    /// are written.
+    /// The three boxes of a date, by what their names begin with: year, month and day from left to right with slashes
+    /// between, as dates are written.
     QLayout *date(const char16_t *prefix);
     /// A record screen's grid with all that acts on it, in its container framBrows; `extra` are further cells of the
     /// line above the grid.
@@ -90,6 +90,8 @@ public:
     Cell rows(const char16_t *list, int count);
     Cell tile(const char16_t *button);
     Cell searching(const char16_t *field);
+    /// A button that is little wider than its caption.
+    Cell small(const char16_t *button);
 
     /// The whole layout; the last word of a layout.
     void fill(QLayout *cells);

@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/layouts/layout_builder.h"
+#include "qt/layouts/layouts.h"
+
+namespace zrv {
+
+void layOutKholList(LayoutBuilder &b)
+{
+    // clang-format off
+    b.atLeast(124, 0);
+    b.fill(b.column({b.wide(b.around(u"framAll", b.column({
+        b.inside(u"framKey", b.line({
+            b.fields({{u"lblTaxYear", u"txtTaxYear"}, {u"lblTaxMonth", u"dcbTaxMonth"},
+                      {u"lblKholListType", u"dcbKholListType"}, {u"lblTFN", u"TextTFN"}}, 4),
+            b.small(u"cmdKeyOk"), b.small(u"cmdKeyReturn"),
+        })),
+        b.inside(u"framData", b.column({
+            b.line({
+                b.wide(b.figures({u"lblJari", u"lblGabl"}, {
+                    {u"lblSumHogog",   {u"txtJariSumHogog",   u"txtGablSumHogog"}},
+                    {u"lblSumMashmol", {u"txtJariSumMashmol", u"txtGablSumMashmol"}},
+                    {u"lblTax",        {u"txtJariTax",        u"txtGablTax"}},
+                    {u"lblJarimeDo",   {u"txtJariJarimeDo",   u"txtGablJarimeDo"}},
+                    {u"lblJarimeBist", {u"txtJariJarimeBist", u"txtGablJarimeBist"}},
+                    {u"lblBedehiTax",  {u"txtJariBedehiTax",  u"txtGablBedehiTax"}},
+                }), 3),
+                b.wide(b.column({
+                    b.fields({{u"lblKarkonanNo", u"txtKarkonanNo"}, {u"lblKharejiNo", u"txtKharejiNo"}}),
+                    u"lblNahveyePardakht", u"dcbNahveyePardakht",
+                    b.fields({{u"lblMablagPardakhti", u"txtMablagPardakhti"}}),
+                    u"lblRoznameDate", b.line({b.around(u"picRoznameDate", b.date(u"txtRozname")), b.room()}),
+                }), 1),
+            }),
+            b.line({
+                b.wide(b.inside(u"framCheque", b.fields({
+                    {u"lblChequeSeriNo", u"txtChequeSeriNo"},
+                    {u"lblBankName", b.line({b.wide(u"cmbBankName"), b.small(u"cmdSearchBankName")})},
+                    {u"lblHesabNo", u"txtHesabNo"},
+                    {u"lblChequeDate", b.around(u"picChequeDate", b.date(u"txtCheque"))},
+                    {u"lblShobeName", u"txtShobeName"},
+                }, 3))),
+                b.column({b.room(), u"cmdDataOk", u"cmdDataReturn"}),
+            }),
+        })),
+        b.wide(b.browse(u"dbgLetter_Topic", {u"chkAutoSearch"})),
+        b.around(u"picButtons", b.buttons({u"cmdPrintKhol", u"cmdDelete", u"cmdExit"})),
+    })))}));
+    // clang-format on
+}
+
+} // namespace zrv
