@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/frmCreatTextFiles.h"
 
+#include "core/code_combos.h"
 #include "core/containers.h"
 #include "core/mdlPublic.h"
-#include "core/store/code_lists.h"
 #include "core/store/recordset.h"
 #include "files/file_writer.h"
 
@@ -73,10 +73,7 @@ void frmCreatTextFiles::Form_Load()
     setCaption(cmdCreatTextFiles.caption());
     EnableContainer(u"framKey", *this);
     txtTaxYear.setText(currentYear());
-    std::vector<ListItem> months;
-    for (const CodeRow &month : codeList(m_program.StoreConnectionString, MonthList))
-        months.push_back({month.shown, month.bound});
-    dcbTaxMonth.setItems(std::move(months));
+    FillCodeList(m_program, MonthList, dcbTaxMonth);
 }
 
 // The month and its paths ------------------------------------------------------------------------------------
