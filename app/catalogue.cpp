@@ -9,6 +9,7 @@
 #include "core/frmMain.h"
 #include "core/frmUser_Defination.h"
 #include "files/frmCreatTextFiles.h"
+#include "lists/frmHogog1.h"
 #include "lists/frmKholList.h"
 #include "lists/frmTransferData.h"
 #include "parties/frmKarfarma.h"
@@ -44,6 +45,7 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmKarfarma"_s, makeScreen<frmKarfarma>);
     catalogue.add(u"frmKarkonan"_s, makeScreen<frmKarkonan>);
     catalogue.add(u"frmSrcKarkonan"_s, makeScreen<frmSrcKarkonan>);
+    catalogue.add(u"frmHogog1"_s, makeScreen<frmHogog1>);
     catalogue.add(u"frmKholList"_s, makeScreen<frmKholList>);
     catalogue.add(u"frmTransferData"_s, makeScreen<frmTransferData>);
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);

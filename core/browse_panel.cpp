@@ -113,7 +113,8 @@ void BrowsePanel::reporting(const std::function<void()> &routine)
 
 void BrowsePanel::fill()
 {
-    reporting([this] { showRows(m_query.all(), m_query.order); });
+    const bool asEntered = m_query.keepsEntryOrder && OptNormal.isChecked();
+    reporting([&] { showRows(m_query.all(), asEntered ? QString() : m_query.order); });
 }
 
 void BrowsePanel::fillAsStored()

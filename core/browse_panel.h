@@ -29,6 +29,7 @@ struct BrowseQuery {
     QString searchOrder = {};                                ///< of the rows found; empty: the usual one
     FailureReport report = FailureReport::PlainBox;
     QString countFormat = u"0"_s; ///< picture of the number of rows
+    bool keepsEntryOrder = false; ///< while OptNormal is chosen, each filling shows the order of entry
 };
 
 /// The grid of a record screen with everything that acts on it: the three options with their two captions each,

@@ -30,6 +30,42 @@ void CaptionLabel::setCentred()
     setAlignment(Qt::AlignCenter);
 }
 
+void CaptionLabel::setColumnWidth(int width)
+{
+    m_columnWidth = width;
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    updateGeometry();
+}
+
+/// The fonts of the script leave room for signs above and below that captions do without.
+int CaptionLabel::lineDistance() const
+{
+    return fontMetrics().height() * 3 / 4;
+}
+
+int CaptionLabel::layOutLines(QTextLayout &lines, int width) const
+{
+    QTextOption option;
+    option.setTextDirection(Qt::RightToLeft);
+    option.setWrapMode(QTextOption::WordWrap);
+    lines.setTextOption(option);
+    lines.beginLayout();
+    for (QTextLine line = lines.createLine(); line.isValid(); line = lines.createLine()) {
+        line.setLineWidth(width);
+        line.setPosition(QPointF(width - line.naturalTextRect().right(), (lines.lineCount() - 1) * lineDistance()));
+    }
+    lines.endLayout();
+    return lines.lineCount();
+}
+
+void CaptionLabel::paintLines(QPainter &painter) const
+{
+    QTextLayout lines(text(), font());
+    const int count = layOutLines(lines, width());
+    const double height = (count - 1) * lineDistance() + fontMetrics().height();
+    lines.draw(&painter, QPointF(0, (this->height() - height) / 2));
+}
+
 bool CaptionLabel::isOneLine() const
 {
     return !wordWrap() && !text().contains(u'\n');
@@ -64,12 +100,18 @@ QSize CaptionLabel::lineSize() const
 
 QSize CaptionLabel::sizeHint() const
 {
+    if (m_columnWidth > 0) {
+        QTextLayout lines(text(), font());
+        return {m_columnWidth, layOutLines(lines, m_columnWidth) * lineDistance() + 2};
+    }
     // A heading that has to wrap is measured unscaled; that is only the narrow display's case.
     return isOneLine() ? lineSize() : QLabel::sizeHint();
 }
 
 QSize CaptionLabel::minimumSizeHint() const
 {
+    if (m_columnWidth > 0)
+        return sizeHint();
     if (m_leftToRight)
         return {0, lineSize().height()};
     return isOneLine() ? lineSize() : QLabel::minimumSizeHint();
@@ -85,11 +127,15 @@ void CaptionLabel::paintEvent(QPaintEvent *event)
     drawFrame(&painter);
     if (text().isEmpty())
         return;
+    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
+    if (m_columnWidth > 0) {
+        paintLines(painter);
+        return;
+    }
     const int side = margin() + std::max(0, indent());
     const QRectF room = contentsRect().adjusted(side, 0, -side, 0);
     const QTextLine line = shaped().lineAt(0);
     const double width = line.naturalTextWidth() * m_scale;
-    painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, foregroundRole()));
     if (m_leftToRight && width > room.width()) {
         const QString cut = fontMetrics().elidedText(text(), Qt::ElideMiddle, static_cast<int>(room.width()));
         painter.drawText(room, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextForceLeftToRight, cut);

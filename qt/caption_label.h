@@ -16,6 +16,8 @@ public:
     /// Text in the middle of its line; wraps only where the display is too narrow for it, see FormWindow::open.
     void setCentred();
     [[nodiscard]] bool isCentred() const { return m_centred; }
+    /// A long caption beside its field: at least so wide, it wraps to lines that stand close.
+    void setColumnWidth(int width);
 
     [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
@@ -25,12 +27,17 @@ protected:
 
 private:
     [[nodiscard]] bool isOneLine() const;
+    [[nodiscard]] int lineDistance() const;
+    /// Lays the text out in lines of this width; returns how many there are.
+    int layOutLines(QTextLayout &lines, int width) const;
+    void paintLines(QPainter &painter) const;
     [[nodiscard]] QSize lineSize() const;
     /// The text with its letters joined, which is done once for measuring and painting.
     [[nodiscard]] const QTextLayout &shaped() const;
 
     mutable QTextLayout m_shaped;
     double m_scale = 1;
+    int m_columnWidth = 0;
     bool m_leftToRight; ///< a path or a code, cut in its middle where the window is too narrow
     bool m_centred = false;
 };

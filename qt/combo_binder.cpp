@@ -95,9 +95,11 @@ void ComboBinder::refresh(Aspect aspect)
     case Aspect::Items: {
         const QSignalBlocker quiet(m_widget);
         m_field->quietly([this] {
-            m_widget->clear();
+            QStringList shown; // at once: a list of payees may have thousands of rows
             for (const ListItem &item : m_combo.items())
-                m_widget->addItem(item.shown);
+                shown += item.shown;
+            m_widget->clear();
+            m_widget->addItems(shown);
             m_widget->setCurrentIndex(-1);
         });
         m_field->showText();

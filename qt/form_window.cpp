@@ -314,6 +314,11 @@ void FormWindow::fit()
     int bars = 0;
     for (const QWidget *bar : {static_cast<QWidget *>(m_menuBar), static_cast<QWidget *>(m_statusBar)})
         bars += bar ? bar->sizeHint().height() : 0;
+    // Frames within frames learn of their captions by events that a window gets once it is shown.
+    for (QWidget *part : m_ground->findChildren<QWidget *>())
+        part->updateGeometry();
+    for (QLayout *cells : m_ground->findChildren<QLayout *>())
+        cells->invalidate();
     QSize wanted = groundSize();
     const bool isHigh = wanted.height() + bars > room.height();
     const int beside = isHigh ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;

@@ -5,7 +5,6 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
-#include <QKeyEvent>
 #include <QStyledItemDelegate>
 #include <QTableView>
 
@@ -116,17 +115,6 @@ GridBinder::GridBinder(Grid &grid, FormWindow &window, QTableView &widget)
     head.setStretchLastSection(true);
     QObject::connect(&head, &QHeaderView::sectionClicked, m_widget,
                      [this](int column) { m_window.enter([&] { form().userHead(m_grid, column); }); });
-}
-
-bool GridBinder::keepsKey(const QKeyEvent &event) const
-{
-    switch (event.key()) {
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-        return true;
-    default:
-        return ViewBinder::keepsKey(event);
-    }
 }
 
 /// There is a current cell whenever there are rows: a screen reader that asks for it must never get none.

@@ -13,7 +13,6 @@ class GridModel;
 class GridBinder : public ViewBinder {
 public:
     GridBinder(Grid &grid, FormWindow &window);
-    [[nodiscard]] bool keepsKey(const QKeyEvent &event) const override;
 
 protected:
     void userMoved(const QModelIndex &current) override;

@@ -207,6 +207,23 @@ bool Form::editKey(Edit &edit, Key key)
     }
 }
 
+namespace {
+
+/// Makes the next shown column current, or the one before, round the end.
+void stepColumn(Grid &grid, int step)
+{
+    const int count = static_cast<int>(grid.columns().size());
+    for (int distance = 1; distance < count; ++distance) {
+        const int column = ((grid.currentColumn() + step * distance) % count + count) % count;
+        if (!grid.columns()[static_cast<size_t>(column)].visible)
+            continue;
+        grid.setCurrent(grid.currentRow(), column);
+        return;
+    }
+}
+
+} // namespace
+
 bool Form::listKey(Control &control, Key key)
 {
     const int step = key == Key::Down ? 1 : -1;
@@ -214,9 +231,13 @@ bool Form::listKey(Control &control, Key key)
     switch (control.kind()) {
     case ControlKind::Grid: {
         auto &grid = static_cast<Grid &>(control);
+        const bool sideways = key == Key::Left || key == Key::Right;
         if (upDown)
             grid.setCurrent(grid.currentRow() + step, grid.currentColumn());
-        return upDown;
+        // Columns follow each other from right to left.
+        if (sideways)
+            stepColumn(grid, key == Key::Left ? 1 : -1);
+        return upDown || sideways;
     }
     case ControlKind::ListBox: {
         auto &list = static_cast<ListBox &>(control);

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/layouts/layout_builder.h"
 
+#include "qt/caption_label.h"
 #include "qt/form_window.h"
 #include "qt/layouts/wrap_layout.h"
 #include "qt/look.h"
 
 #include <QBoxLayout>
+#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
@@ -172,6 +174,49 @@ QLayout *LayoutBuilder::figures(Cells heads, std::initializer_list<std::pair<con
     return grid;
 }
 
+QLayout *LayoutBuilder::amounts(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs,
+                                int lettersOfCaption)
+{
+    constexpr int AmountLetters = 15;
+    constexpr int ListLetters = 24;
+    const int letter = m_window.fontMetrics().horizontalAdvance(u'0');
+    // An amount stands in the last of three columns; a list takes the middle one as well.
+    auto *const grid = new QGridLayout;
+    grid->setVerticalSpacing(2);
+    grid->setHorizontalSpacing(4);
+    grid->setContentsMargins(8, 2, 8, 6);
+    grid->setColumnStretch(0, 1);
+    grid->setColumnMinimumWidth(1, letter * (ListLetters - AmountLetters) - grid->horizontalSpacing());
+    int row = 0;
+    for (const auto &[labelName, fieldName] : pairs) {
+        auto *const label = dynamic_cast<CaptionLabel *>(widget(QString::fromUtf16(labelName)));
+        QWidget *const field = widget(QString::fromUtf16(fieldName));
+        const bool isList = qobject_cast<QComboBox *>(field) != nullptr;
+        field->setFixedSize(letter * (isList ? ListLetters : AmountLetters), m_window.fontMetrics().height() * 9 / 10);
+        label->setColumnWidth(letter * (lettersOfCaption - (isList ? ListLetters - AmountLetters : 0)));
+        label->setBuddy(field);
+        grid->addWidget(label, row, 0, 1, isList ? 1 : 2);
+        grid->addWidget(field, row, isList ? 1 : 2, 1, isList ? 2 : 1);
+        ++row;
+    }
+    grid->setRowStretch(row, 1);
+    return grid;
+}
+
+LayoutBuilder::Cell LayoutBuilder::narrow(const char16_t *field, int letters)
+{
+    QWidget *const narrowed = widget(QString::fromUtf16(field));
+    narrowed->setFixedWidth(m_window.fontMetrics().horizontalAdvance(u'0') * letters);
+    return narrowed;
+}
+
+LayoutBuilder::Cell LayoutBuilder::noLess(const char16_t *list, int letters)
+{
+    QWidget *const field = widget(QString::fromUtf16(list));
+    field->setMinimumWidth(m_window.fontMetrics().horizontalAdvance(u'0') * letters);
+    return field;
+}
+
 QLayout *LayoutBuilder::date(const char16_t *prefix)
 {
     const QString begin = QString::fromUtf16(prefix);
@@ -326,6 +371,14 @@ LayoutBuilder::Cell LayoutBuilder::rows(const char16_t *list, int count)
 {
     QWidget *const made = widget(QString::fromUtf16(list));
     made->setFixedHeight(made->fontMetrics().height() * 3 / 2 * count);
+    return made;
+}
+
+LayoutBuilder::Cell LayoutBuilder::words(const char16_t *label, int letters)
+{
+    auto *const made = dynamic_cast<CaptionLabel *>(widget(QString::fromUtf16(label)));
+    made->setColumnWidth(m_window.fontMetrics().horizontalAdvance(u'0') * letters);
+    made->setMinimumHeight(m_window.fontMetrics().height() * 8 / 5);
     return made;
 }
 

@@ -56,6 +56,12 @@ public:
     QLayout *fields(std::initializer_list<std::pair<const char16_t *, Cell>> pairs, int pairsPerLine = 1);
     /// A field under each head in the line of each label; head and label together name it to screen readers.
     QLayout *figures(Cells heads, std::initializer_list<std::pair<const char16_t *, Cells>> lines);
+    /// Amounts below each other in close lines: long captions, at least so many letters wide, that wrap beside fields
+    /// as wide as an amount; a list's is wider.
+    QLayout *amounts(std::initializer_list<std::pair<const char16_t *, const char16_t *>> pairs, int lettersOfCaption);
+    /// A field of so many letters' width; or of no less, where a list would claim more for itself.
+    Cell narrow(const char16_t *field, int letters);
+    Cell noLess(const char16_t *list, int letters);
     /// The three boxes of a date, by what their names begin with: year, month and day from left to right with slashes
     /// between, as dates are written.
     QLayout *date(const char16_t *prefix);
@@ -88,6 +94,8 @@ public:
     Cell paragraph(const char16_t *label, int lines);
     /// A list of so many rows.
     Cell rows(const char16_t *list, int count);
+    /// An amount in words, in close lines at least so many letters wide; two lines are kept free for it.
+    Cell words(const char16_t *label, int letters);
     Cell tile(const char16_t *button);
     Cell searching(const char16_t *field);
     /// A button that is little wider than its caption.

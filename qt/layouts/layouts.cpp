@@ -27,6 +27,7 @@ constexpr Row layouts[] = {
     {QLatin1String("frmKarfarma"),           layOutKarfarma},
     {QLatin1String("frmKarkonan"),           layOutKarkonan},
     {QLatin1String("frmSrcKarkonan"),        layOutSrcKarkonan},
+    {QLatin1String("frmHogog1"),             layOutHogog1},
     {QLatin1String("frmKholList"),           layOutKholList},
     {QLatin1String("frmTransferData"),       layOutTransferData},
     {QLatin1String("frmVersionsFacilities"), layOutVersionsFacilities},

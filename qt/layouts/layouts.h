@@ -22,6 +22,7 @@ void layOutUser_Defination(LayoutBuilder &b);
 void layOutKarfarma(LayoutBuilder &b);
 void layOutKarkonan(LayoutBuilder &b);
 void layOutSrcKarkonan(LayoutBuilder &b);
+void layOutHogog1(LayoutBuilder &b);
 void layOutKholList(LayoutBuilder &b);
 void layOutTransferData(LayoutBuilder &b);
 void layOutVersionsFacilities(LayoutBuilder &b);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Whatever moment the program is killed at while it changes the monthly lists, the store is sound and each month is
 // whole or absent. What else changes the lists joins with a line in Cases.
+#include "lists/frmHogog1.h"
 #include "lists/month_copy.h"
 #include "tests/core/screens/quiet_platform.h"
 #include "tests/tools/killed_process.h"
@@ -45,6 +46,38 @@ void copyMonths(Program &program, int turn)
     CopyMonth(program, {u"1389"_s, u"02"_s}, {QString::number(1390 + turn / 12), month});
 }
 
+/// A user of the salary list: has the year's last month carried into the next, and changes payees of it.
+void carryAndSave(Program &program, int turn)
+{
+    const ListMonth month{QString::number(1390 + turn / 12), QString::number(100 + turn % 12 + 1).mid(1)};
+    if (month.month == u"01") {
+        CopyMonth(program, {u"1389"_s, u"02"_s}, month);
+        return;
+    }
+    // The list tells of each carried month, and of rows that it doesn't open.
+    class Consenting : public QuietPlatform {
+        Answer messageBox(int style, const QString &, const QString &) override
+        {
+            return style & box::YesNo ? Answer::Yes : Answer::Ok;
+        }
+    } platform;
+    Program run(platform);
+    run.StoreConnectionString = program.StoreConnectionString;
+    run.PayerTFN = program.PayerTFN;
+    frmHogog1 screen(run);
+    screen.load();
+    screen.activate();
+    screen.txtTaxYear.setText(month.year);
+    screen.dcbTaxMonth.setBoundText(month.month);
+    screen.userClick(screen.cmdKeyOk);
+    for (int row = 0; row < 3; ++row) {
+        screen.userRow(screen.browse.grid, row, 0);
+        screen.userKey(Key::Enter);
+        screen.txtNJariHogog.setText(QString::number(9'000'000 + turn));
+        screen.userClick(screen.cmdDataOk);
+    }
+}
+
 void PrintTo(const Case &each, std::ostream *out)
 {
     *out << each.name;
@@ -52,6 +85,7 @@ void PrintTo(const Case &each, std::ostream *out)
 
 const Case Cases[] = {
     {"CopyMonth", copyMonths},
+    {"CarryAndSave", carryAndSave},
 };
 
 class KilledWork : public storetool::ToolTest, public testing::WithParamInterface<Case> {
@@ -73,6 +107,10 @@ protected:
             EXPECT_EQ(month[2], whole.value(u"KarkonanNo").toText()) << line.toStdString();
             EXPECT_EQ(month[3].toDouble(), whole.value(u"SUMFinalTax").toText().toDouble()) << line.toStdString();
         }
+        EXPECT_EQ(Sqlite(store).value(u"SELECT count(*) FROM ZRVtbHogog WHERE "
+                                      "NTotalDaramad+0<>NJariHogog+JariEzafeKar+NJariSayerPardakhtiha"_s),
+                  u"0"_s)
+            << "the figures of a row belong together";
         return int(months.size());
     }
 

@@ -170,6 +170,19 @@ TEST_F(Lists, ArrowsClicksAndPagesMoveTheGridsRow)
     EXPECT_EQ(picks, 1);
 }
 
+TEST_F(Lists, SidewaysArrowsWrapRoundTheShownColumns)
+{
+    form.grid.setRows(std::make_shared<CountingRows>(5));
+    form.userFocus(form.grid);
+    for (const int column : {1, 0, 1}) {
+        pressKey(shown.input(form.grid), Qt::Key_Left);
+        EXPECT_EQ(form.grid.currentColumn(), column);
+        EXPECT_EQ(table().currentIndex().column(), column);
+    }
+    pressKey(shown.input(form.grid), Qt::Key_Right);
+    EXPECT_EQ(table().currentIndex().column(), 0);
+}
+
 TEST_F(Lists, AHeadsClickNamesItsColumnAndHiddenColumnsStayHidden)
 {
     form.grid.setRows(std::make_shared<CountingRows>(5));

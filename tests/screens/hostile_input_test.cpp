@@ -10,6 +10,7 @@
 #include "core/store/new_store.h"
 #include "core/store/recordset.h"
 #include "core/store/schema.h"
+#include "lists/frmHogog1.h"
 #include "lists/frmKholList.h"
 #include "lists/frmTransferData.h"
 #include "parties/frmKarfarma.h"
@@ -64,6 +65,23 @@ const std::vector<Step> NaturalPayer{
     {u"txtEmzaFamily2", u"كريمي"},     {u"txtEmzaSemat2", u"معاون"},
 };
 
+const std::vector<Step> PayeesMonth{
+    {u"txtTaxYear", u"1389"},
+    {u"dcbTaxMonth", u"01"},
+    {u"cmdKeyOk"},
+    {u"dcbMelliCode", u"1234567891"},
+    {u"cmdKeyOk1"},
+    {u"txtNJariHogog", u"5000000"},
+    {u"txtJariEzafeKar", u"200000"},
+    {u"txtNJariMoafiate91", u"100000"},
+    {u"dcbMaskanStatus", u"2"},
+    {u"dcbOtomobilStatus", u"3"},
+    {u"txtFinalDaramadeMashmol", u"1"},
+    {u"txtJariTax", u"1"},
+    {u"txtFinalTax", u"1"},
+};
+const char16_t *const Payee =
+    u"INSERT INTO ZRVtbKarkonan (TFN,MelliCode,Name,Family,ShakhsMoafCode) VALUES ('1','1234567891','علي','احمدي','1')";
 const std::vector<Step> SummaryByCheque{
     {u"dcbTaxMonth", u"01"},       {u"cmdKeyOk"},
     {u"txtJariJarimeDo", u"5"},    {u"dcbNahveyePardakht", u"2"},
@@ -97,6 +115,10 @@ const std::vector<Stage> Stages{
     {"PayerLegal",    make<frmKarfarma>,       LegalPayer, u"cmdDataOk", true},
     {"PayerNatural",  make<frmKarfarma>,       NaturalPayer, u"cmdDataOk", true},
     {"PayerSearch",   make<frmKarfarma>,       {{u"chkAutoSearch"}, {u"OptSearch"}, {u"dbgLetter_Topic", u"3"}}, u"cmdSearch"},
+    {"SalaryKey",     make<frmHogog1>,         {{u"dcbTaxMonth", u"01"}}, u"cmdKeyOk"},
+    {"SalaryPayee",   make<frmHogog1>,         {{u"dcbTaxMonth", u"01"}, {u"cmdKeyOk"}}, u"cmdKeyOk1", false, {}, {Payee}},
+    {"SalaryData",    make<frmHogog1>,         PayeesMonth, u"cmdDataOk", true, {}, {Payee}},
+    {"SalarySearch",  make<frmHogog1>,         {{u"OptSearch"}, {u"dbgLetter_Topic", u"5"}}, u"cmdSearch"},
     {"SummaryKey",    make<frmKholList>,       {{u"dcbTaxMonth", u"01"}}, u"cmdKeyOk", false, {}, {SummaryPayer, SummarySalary}},
     {"SummaryNew",    make<frmKholList>,       SummaryByCheque, u"cmdDataOk", true, {}, {SummaryPayer, SummarySalary}},
     {"SummaryFound",  make<frmKholList>,       SummaryByCheque, u"cmdDataOk", true, {}, {SummaryPayer, SummarySalary, SummaryRow}},
@@ -247,7 +269,11 @@ protected:
             if (QString::fromUtf16(other.column) == column)
                 name = QString::fromUtf16(other.field);
         if (const auto *const field = dynamic_cast<const TextBox *>(screen.find(name))) {
-            const QString taken = entered(value, m_tags.value(name));
+            if (field->maxLength() > 0) {
+                EXPECT_LE(value.size(), field->maxLength()) << column.toStdString();
+            }
+            for (const QChar letter : value)
+                const QString taken = entered(value, m_tags.value(name));
             EXPECT_LE(taken.size(), field->maxLength()) << column.toStdString();
             for (const QChar letter : taken)
                 EXPECT_TRUE(admits(m_tags.value(name), letter))

@@ -58,6 +58,20 @@ TEST(Grid, FirstRowIsCurrentAndArrowsMoveWithinTheRows)
     EXPECT_EQ(moves, 1);
 }
 
+TEST(Grid, SidewaysArrowsStepThroughTheShownColumnsFromRightToLeftAndWrapRound)
+{
+    GridForm form;
+    form.grid.setColumns({{u"N"_s, u"N"_s}, {u"Hidden"_s, {}, {}, false, false}, {u"Square"_s, u"Square"_s}});
+    form.userRow(form.grid, 3, 0);
+    form.userKey(Key::Left);
+    EXPECT_EQ(form.grid.currentColumn(), 2) << "a hidden column is stepped over";
+    form.userKey(Key::Left);
+    EXPECT_EQ(form.grid.currentColumn(), 0);
+    form.userKey(Key::Right);
+    EXPECT_EQ(form.grid.currentColumn(), 2);
+    EXPECT_EQ(form.grid.currentRow(), 3);
+}
+
 TEST(Grid, CurrentCellIsFoundByItsField)
 {
     GridForm form;

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/layouts/layout_builder.h"
+#include "qt/layouts/layouts.h"
+
+#include <QLayout>
+
+namespace zrv {
+
+namespace {
+
+constexpr int CaptionLetters = 40;
+
+QLayout *keys(LayoutBuilder &b)
+{
+    return b.line({
+        b.inside(u"framKey",
+                 b.line({u"lblTaxYear", b.narrow(u"txtTaxYear", 6), u"lblTaxMonth", b.narrow(u"dcbTaxMonth", 13),
+                         b.narrow(u"cmdKeyOk", 7), b.narrow(u"cmdKeyReturn", 7)})),
+        b.wide(b.inside(u"framKey1", b.line({u"lblMelliCode", b.wide(b.noLess(u"dcbMelliCode", 18)),
+                                             b.narrow(u"textMelliCode", 12), b.narrow(u"cmdSearchMoadi", 4),
+                                             b.narrow(u"cmdKeyOk1", 7), b.narrow(u"cmdKeyReturn1", 7)}))),
+    });
+}
+
+/// What was paid in cash, and below it what is worked out of everything.
+QLayout *paidAndTaxed(LayoutBuilder &b)
+{
+    // clang-format off
+    return b.column({
+        b.inside(u"framNagdy", b.amounts({
+            {u"lblNJariHogog", u"txtNJariHogog"}, {u"lblJariEzafeKar", u"txtJariEzafeKar"},
+            {u"lblNJariSayerPardakhtiha", u"txtNJariSayerPardakhtiha"}, {u"lblNTotalDaramad", u"txtNTotalDaramad"},
+            {u"lblNJariMoafiate91", u"txtNJariMoafiate91"}, {u"lblNDaramadeMashmol", u"txtNDaramadeMashmol"},
+        }, CaptionLetters)),
+        b.inside(u"framMohasebeh", b.amounts({
+            {u"lblNGPTotalDaramadeMashmol", u"txtNGPTotalDaramadeMashmol"}, {u"lblSayereMoafiatha", u"txtSayereMoafiatha"},
+            {u"lblFinalDaramadeMashmol", u"txtFinalDaramadeMashmol"}, {u"lblJariTax", u"txtJariTax"},
+            {u"lblFinalTaxCaption", u"txtFinalTax"},
+        }, CaptionLetters)),
+    });
+    // clang-format on
+}
+
+QLayout *givenAndSaved(LayoutBuilder &b)
+{
+    // clang-format off
+    return b.column({
+        b.inside(u"framGNagdy", b.amounts({
+            {u"lblGJariHogog", u"txtGJariHogog"}, {u"lblMaskanStatus", u"dcbMaskanStatus"},
+            {u"lblMaskanMablagh", u"txtMaskanMablagh"}, {u"lblOtomobilStatus", u"dcbOtomobilStatus"},
+            {u"lblOtomobilMablagh", u"txtOtomobilMablagh"}, {u"lblGTotalDaramad", u"txtGTotalDaramad"},
+            {u"lblGDaramadeMashmol", u"txtGDaramadeMashmol"},
+        }, CaptionLetters)),
+        b.inside(u"framPadash", b.amounts({
+            {u"lblPJariHogog", u"txtPJariHogog"}, {u"lblPDaramadeMashmol", u"txtPDaramadeMashmol"},
+        }, CaptionLetters)),
+        b.room(),
+        b.words(u"lblFinalTax", CaptionLetters),
+        b.line({b.wide(u"lbDVaziateMoafiat"), b.buttons({u"cmdDataOk", u"cmdDataReturn"})}),
+    });
+    // clang-format on
+}
+
+} // namespace
+
+void layOutHogog1(LayoutBuilder &b)
+{
+    b.atLeast(145, 0);
+    QLayout *const amounts = b.line({b.wide(paidAndTaxed(b)), b.wide(givenAndSaved(b))});
+    amounts->setContentsMargins(6, 6, 6, 6);
+    // clang-format off
+    b.fill(b.column({b.wide(b.around(u"framAll", b.column({
+        keys(b),
+        b.inside(u"framData", amounts),
+        b.wide(b.browse(u"dbgLetter_Topic")),
+        b.around(u"picButtons", b.buttons({u"cmdPrintHogh", u"cmdDelete", u"cmdExit"})),
+    }))), b.inside(u"PPICWaitingMessage", b.column({b.note(u"LabelWaitingMessage")}))}));
+    // clang-format on
+}
+
+} // namespace zrv
