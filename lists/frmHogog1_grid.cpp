@@ -33,7 +33,7 @@ void frmHogog1::FormatGrid()
                       },
                   .countFormat = u"#,##0"_s,
                   .keepsEntryOrder = true},
-                 salaryColumns());
+                 salaryGridColumns());
 }
 
 void frmHogog1::FillGrid()

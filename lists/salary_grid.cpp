@@ -121,7 +121,7 @@ QString salarySelect()
     return statement;
 }
 
-std::vector<BrowseColumn> salaryColumns()
+std::vector<BrowseColumn> salaryGridColumns()
 {
     std::vector<BrowseColumn> columns;
     columns.reserve(Columns.size());

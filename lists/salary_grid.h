@@ -12,6 +12,6 @@ namespace zrv {
 [[nodiscard]] QString salarySelect();
 
 /// The columns of the grid in order.
-[[nodiscard]] std::vector<BrowseColumn> salaryColumns();
+[[nodiscard]] std::vector<BrowseColumn> salaryGridColumns();
 
 } // namespace zrv
