@@ -8,7 +8,7 @@ namespace zrv {
 
 namespace {
 
-constexpr int CaptionLetters = 40;
+constexpr int CaptionLetters = 36;
 
 QLayout *keys(LayoutBuilder &b)
 {
@@ -16,7 +16,7 @@ QLayout *keys(LayoutBuilder &b)
         b.inside(u"framKey",
                  b.line({u"lblTaxYear", b.narrow(u"txtTaxYear", 6), u"lblTaxMonth", b.narrow(u"dcbTaxMonth", 13),
                          b.narrow(u"cmdKeyOk", 7), b.narrow(u"cmdKeyReturn", 7)})),
-        b.wide(b.inside(u"framKey1", b.line({u"lblMelliCode", b.wide(b.noLess(u"dcbMelliCode", 18)),
+        b.wide(b.inside(u"framKey1", b.line({u"lblMelliCode", b.wide(b.noLess(u"dcbMelliCode", 16)),
                                              b.narrow(u"textMelliCode", 12), b.narrow(u"cmdSearchMoadi", 4),
                                              b.narrow(u"cmdKeyOk1", 7), b.narrow(u"cmdKeyReturn1", 7)}))),
     });
@@ -73,7 +73,7 @@ void layOutHogog1(LayoutBuilder &b)
         keys(b),
         b.inside(u"framData", amounts),
         b.wide(b.browse(u"dbgLetter_Topic")),
-        b.around(u"picButtons", b.buttons({u"cmdPrintHogh", u"cmdDelete", u"cmdExit"})),
+        b.around(u"picButtons", b.line({u"cmdPrintHogh", u"cmdDelete", u"cmdExit", b.room()})),
     }))), b.inside(u"PPICWaitingMessage", b.column({b.note(u"LabelWaitingMessage")}))}));
     // clang-format on
 }

@@ -10,8 +10,8 @@ void layOutKholList(LayoutBuilder &b)
     b.atLeast(124, 0);
     b.fill(b.column({b.wide(b.around(u"framAll", b.column({
         b.inside(u"framKey", b.line({
-            b.fields({{u"lblTaxYear", u"txtTaxYear"}, {u"lblTaxMonth", u"dcbTaxMonth"},
-                      {u"lblKholListType", u"dcbKholListType"}, {u"lblTFN", u"TextTFN"}}, 4),
+            u"lblTaxYear", b.narrow(u"txtTaxYear", 6), u"lblTaxMonth", b.narrow(u"dcbTaxMonth", 13),
+            u"lblKholListType", b.wide(b.noLess(u"dcbKholListType", 12)), u"lblTFN", b.narrow(u"TextTFN", 14),
             b.small(u"cmdKeyOk"), b.small(u"cmdKeyReturn"),
         })),
         b.inside(u"framData", b.column({
@@ -33,13 +33,13 @@ void layOutKholList(LayoutBuilder &b)
             }),
             b.line({
                 b.wide(b.inside(u"framCheque", b.fields({
-                    {u"lblChequeSeriNo", u"txtChequeSeriNo"},
+                    {u"lblChequeSeriNo", b.narrow(u"txtChequeSeriNo", 12)},
                     {u"lblBankName", b.line({b.wide(u"cmbBankName"), b.small(u"cmdSearchBankName")})},
-                    {u"lblHesabNo", u"txtHesabNo"},
+                    {u"lblHesabNo", b.narrow(u"txtHesabNo", 14)},
                     {u"lblChequeDate", b.around(u"picChequeDate", b.date(u"txtCheque"))},
                     {u"lblShobeName", u"txtShobeName"},
                 }, 3))),
-                b.column({b.room(), u"cmdDataOk", u"cmdDataReturn"}),
+                b.column({b.room(), b.small(u"cmdDataOk"), b.small(u"cmdDataReturn")}),
             }),
         })),
         b.wide(b.browse(u"dbgLetter_Topic", {u"chkAutoSearch"})),

@@ -10,10 +10,10 @@ void layOutMakeShobe(LayoutBuilder &b)
     b.atLeast(80, 0);
     b.fill(b.column({
         b.fields({{u"lblMojodShobe", u"txtMojodShobe"}, {u"lblNeededShoeb", u"txtNeededShoeb"}}),
-        b.values({{u"lblTotalCountCaption", u"lblTotalCount"}}),
-        b.inside(u"PPICWaitingMessage", b.column({b.note(u"LabelWaitingMessage")})),
+        b.line({b.wide(b.paragraph(u"lblTotalCountCaption", 1)), b.value(u"lblTotalCount")}),
+        b.inside(u"PPICWaitingMessage", b.column({b.paragraph(u"LabelWaitingMessage", 2)})),
         b.room(),
-        b.buttons({u"cmdUpgrades", u"cmdExit"}),
+        b.line({u"cmdUpgrades", u"cmdExit", b.room()}),
     }));
     // clang-format on
 }

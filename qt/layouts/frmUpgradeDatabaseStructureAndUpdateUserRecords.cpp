@@ -8,8 +8,9 @@ void layOutUpgradeDatabaseStructureAndUpdateUserRecords(LayoutBuilder &b)
 {
     b.atLeast(115, 24);
     b.fill(b.column({
-        b.line({b.wide(b.tile(u"cmdUpgradeStructure")), u"chkDelete"}),
-        b.inside(u"PPICWaitingMessage", b.column({b.note(u"LabelWaitingMessage")})),
+        b.tile(u"cmdUpgradeStructure"),
+        u"chkDelete",
+        b.inside(u"PPICWaitingMessage", b.column({b.paragraph(u"LabelWaitingMessage", 2)})),
         b.wide(u"txtLog"),
         b.buttons({u"cmdExit"}),
     }));
