@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-// The shared helpers on dates, texts, numbers and files, which every screen may call.
+// The shared helpers on dates, texts, numbers, national codes and files, which every screen may call.
 
+#include "core/public/check_digit.h"
 #include "core/public/digit_codes.h"
 #include "core/public/files.h"
 #include "core/public/filter_key.h"

@@ -4,8 +4,8 @@
 
 #include "core/code_combos.h"
 #include "core/containers.h"
+#include "core/public/check_digit.h"
 #include "core/store/recordset.h"
-#include "parties/check_digit.h"
 #include "parties/payee_columns.h"
 #include "parties/payee_grid.h"
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/sample/numbers.h"
 
-#include "parties/check_digit.h"
+#include "core/public/check_digit.h"
 #include "tools/sample/dice.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/zrvstore/old_rows.h"
 
-#include "parties/check_digit.h"
+#include "core/public/check_digit.h"
 #include "tools/zrvstore/field_rules.h"
 #include "tools/zrvstore/letters.h"
 #include "tools/zrvstore/old_shape.h"

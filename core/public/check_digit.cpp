@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "parties/check_digit.h"
+#include "core/public/check_digit.h"
 
 #include "core/basic/text.h"
 
