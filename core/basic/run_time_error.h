@@ -32,6 +32,7 @@ namespace error {
 
 inline constexpr qint32 InvalidProcedureCall = 5;
 inline constexpr qint32 Overflow = 6;
+inline constexpr qint32 OutOfMemory = 7;
 inline constexpr qint32 SubscriptOutOfRange = 9;
 inline constexpr qint32 TypeMismatch = 13;
 inline constexpr qint32 FileNotFound = 53;

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/check_rules.h"
 #include "files/wh_layout.h"
 #include "files/wk_layout.h"
 #include "tests/print_text.h"
@@ -26,6 +27,13 @@ const Field &summary(int number)
     return wkFields()[static_cast<std::size_t>(number) - 1];
 }
 
+/// The limit that the check puts on a field's length.
+const CheckRule &lengthRule(const LineRules &line, int field)
+{
+    return *std::ranges::find_if(line.rules,
+                                 [field](const CheckRule &rule) { return rule.field == field && rule.limit > 0; });
+}
+
 TEST(RecordLayouts, PayerHas22FieldsPayee34SummaryList25)
 {
     EXPECT_EQ(whPayerFields().size(), 22u);
@@ -48,23 +56,23 @@ TEST(RecordLayouts, EveryFieldButTheControlFieldHasAWidthAndALabelInBrackets)
 TEST(RecordLayouts, BranchCodeIsWrittenShorterThanTheCheckAllows)
 {
     EXPECT_EQ(payer(2).width, 2);
-    EXPECT_EQ(payer(2).rules[0].length, Length::UpTo);
-    EXPECT_EQ(payer(2).rules[0].limit, 5);
+    EXPECT_EQ(lengthRule(whRules().first, 2).asks, Asks::UpTo);
+    EXPECT_EQ(lengthRule(whRules().first, 2).limit, 5);
 }
 
 TEST(RecordLayouts, PostIsWrittenLongerThanTheCheckAllows)
 {
     EXPECT_EQ(payee(7).name, u"Semat");
     EXPECT_EQ(payee(7).width, 30);
-    EXPECT_EQ(payee(7).rules[0].limit, 20);
+    EXPECT_EQ(lengthRule(whRules().rest, 7).limit, 20);
 }
 
 TEST(RecordLayouts, ChequeNumberIsWrittenShorterAndBankCodeLongerThanTheCheckAllows)
 {
     EXPECT_EQ(summary(20).width, 6);
-    EXPECT_EQ(summary(20).rules[0].limit, 15);
+    EXPECT_EQ(lengthRule(wkRules().first, 20).limit, 15);
     EXPECT_EQ(summary(22).width, 4);
-    EXPECT_EQ(summary(22).rules[0].limit, 2);
+    EXPECT_EQ(lengthRule(wkRules().first, 22).limit, 2);
 }
 
 TEST(RecordLayouts, BonusAndItsRemainderShareALabel)
@@ -79,8 +87,8 @@ TEST(RecordLayouts, AllAmountsOfAPayeeAreTenWideAndUnlessEmptyNumbers)
     for (int number = 17; number <= 34; ++number) {
         EXPECT_EQ(payee(number).table, u"ZRVtbHogog");
         EXPECT_EQ(payee(number).width, 10);
-        EXPECT_EQ(payee(number).rules[0].length, Length::AtMost);
-        EXPECT_EQ(payee(number).rules[0].letters, Letters::Digits);
+        EXPECT_EQ(lengthRule(whRules().rest, number).asks, Asks::AtMost);
+        EXPECT_EQ(lengthRule(whRules().rest, number).limit, 10);
     }
 }
 
@@ -91,17 +99,6 @@ TEST(RecordLayouts, NamesWithinALineAreDifferent)
         for (const Field &field : fields)
             names << field.name.toString();
         EXPECT_EQ(names.removeDuplicates(), 0);
-    }
-}
-
-TEST(RecordLayouts, AFieldWithTwoRulesSaysForWhichLinesEachIs)
-{
-    for (const auto &fields : {whPayerFields(), whPayeeFields(), wkFields()}) {
-        for (const Field &field : fields) {
-            const bool hasTwo = field.rules[1].length != Length::Any;
-            EXPECT_EQ(hasTwo, field.rules[0].when != When::Always) << field.name.toUtf8().constData();
-            EXPECT_EQ(hasTwo, field.rules[1].when != When::Always) << field.name.toUtf8().constData();
-        }
     }
 }
 

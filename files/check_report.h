@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+// A structure check's report that is made where it is looked at. The report of 50,000 payees has some 400 million
+// letters; nobody keeps them. The report is a function of the file, so it is enough to know where in it each line of the
+// file begins to be reported; any part is made again from there.
+
+#include "files/report_writer.h"
+
+#include <vector>
+
+namespace zrv {
+
+/// Memory: some 6 MB at most, whatever the file's length. To be used from one thread. Keeps the file open; once somebody
+/// writes to the file, whatever makes text of it raises DeviceIo.
+class CheckReport {
+public:
+    /// The clock is asked at the beginning and the end of run().
+    CheckReport(FileKind kind, const QString &path, const CheckOptions &options, ReportClock clock);
+
+    /// Checks the file. Called once, before all else.
+    CheckOutcome run(const BeforeLine &beforeLine = {});
+
+    /// Letters of the report (UTF-16 units), CR LF counted as two.
+    [[nodiscard]] qint64 length() const { return m_end.length; }
+    /// A text behind the last CR LF is a line too.
+    [[nodiscard]] qint64 lineCount() const { return m_end.lines; }
+    [[nodiscard]] qint64 errorCount() const { return m_outcome.errors; }
+
+    /// The lines from `first` on (from 0), as many as there are up to `count`, joined by CR LF without one at the end.
+    [[nodiscard]] QString lines(qint64 first, qint64 count);
+
+    /// The next line behind `line` that tells an error; -1 when there is none. With -1 the first of all.
+    [[nodiscard]] qint64 nextError(qint64 line);
+
+    /// The whole report, in any length, piece by piece. False if `goOn`, called now and then, wanted to stop.
+    bool write(ReportSink &sink, const std::function<bool()> &goOn = {});
+
+private:
+    /// Where a line of the file begins to be reported.
+    struct Mark {
+        CheckPlace place;
+        qint64 line = 0;   ///< of the report
+        qint64 length = 0; ///< of the report before it
+    };
+    struct End {
+        qint64 lines = 0;
+        qint64 length = 0;
+    };
+    class Measure;
+    class Excerpt;
+    class ErrorSearch;
+
+    void addMark(const Mark &mark);
+    void make(ReportWriter &writer, const std::vector<Mark>::const_iterator &from, const BeforeLine &beforeLine);
+    [[nodiscard]] std::vector<Mark>::const_iterator markBefore(qint64 line) const;
+
+    StructureCheck m_check;
+    QString m_started;
+    QString m_finished;
+    ReportClock m_clock;
+    CheckOutcome m_outcome;
+    std::vector<Mark> m_marks;
+    qint64 m_stride = 1; ///< a mark for each so many lines of the file
+    End m_end;
+};
+
+} // namespace zrv

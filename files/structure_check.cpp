@@ -1,0 +1,178 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/structure_check.h"
+
+#include "core/basic/run_time_error.h"
+#include "core/platform/platform.h"
+#include "files/check_words.h"
+
+#include <utility>
+
+namespace zrv {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+constexpr qint64 FewestRecords = 2;
+constexpr qint64 RecordsOfShortCheck = 2;
+constexpr qsizetype NameLength = 12;
+constexpr qsizetype KindLength = 2;
+
+constexpr int ClosingStyle = box::RightToLeft | box::RightAligned | box::Information; // 0x180040
+
+// The box of a run that failed has words of its own for these errors; those of FileNotFound differ between the checks.
+constexpr QStringView NoAccess = u"فايل مورد نظر يافت نشد";
+constexpr QStringView NoPath =
+    u"علت يافت نشدن فايل ميتواند استفاده از نامهاي فارسي جهت نامگذاري فولدر حاوي فايل هاي ليست حقوق و خلاصه ليست باشد";
+
+bool hasNameOf(FileKind kind, QStringView path)
+{
+    return path.size() >= NameLength
+           && path.last(NameLength).first(KindLength).compare(checkWords(kind).nameLetters, Qt::CaseInsensitive) == 0;
+}
+
+CheckBox failureBox(FileKind kind, const CheckOutcome &outcome)
+{
+    const QString failure = QString::number(outcome.failure) + u" < "_s + outcome.description + u" > "_s;
+    switch (outcome.failure) {
+    case error::FileNotFound:
+        return {box::Plain, {}, checkWords(kind).fileNotFound + u'\r' + failure};
+    case error::PathFileAccess:
+        return {box::Plain, {}, NoAccess + u'\r' + failure};
+    case error::PathNotFound:
+        return {box::Plain, {}, NoPath + u'\r' + failure};
+    default:
+        return {box::Plain, {}, failure};
+    }
+}
+
+} // namespace
+
+StructureCheck::StructureCheck(const FileRules &rules, QString path, CheckOptions options)
+    : m_rules(rules)
+    , m_path(std::move(path))
+    , m_options(std::move(options))
+{
+}
+
+CheckOutcome StructureCheck::run(CheckEvents &events, const BeforeLine &beforeLine)
+{
+    events.started();
+    if (m_path.isEmpty())
+        return refuse(FindingKind::NoFile, events);
+    if (!hasNameOf(m_rules.kind, m_path))
+        return refuse(FindingKind::WrongName, events);
+    events.nameAccepted();
+    return guarded([&] {
+        m_reader = std::make_unique<LineReader>(m_path);
+        return m_reader->isEmpty() ? reportEmpty(events) : walk({}, events, beforeLine);
+    });
+}
+
+CheckOutcome StructureCheck::runFrom(const CheckPlace &place, CheckEvents &events, const BeforeLine &beforeLine)
+{
+    if (m_reader->hasChanged())
+        throw RunTimeError(error::DeviceIo,
+                           u"فايل پس از کنترل تغيير کرده است. لطفا دوباره آن را کنترل نماييد:\n"_s + m_path);
+    return guarded([&] {
+        m_reader->seek(place.offset);
+        return walk(place.state, events, beforeLine);
+    });
+}
+
+/// Turns what ends a run early into its outcome.
+CheckOutcome StructureCheck::guarded(const std::function<CheckOutcome()> &walking) const
+{
+    CheckOutcome outcome;
+    try {
+        outcome = walking();
+    } catch (const RunTimeError &failure) {
+        outcome.end = CheckEnd::Failed;
+        outcome.failure = failure.number();
+        outcome.description = failure.description();
+    }
+    if (m_reader)
+        outcome.oddities = m_reader->oddities();
+    outcome.showsReport = outcome.end == CheckEnd::Finished || m_rules.kind == FileKind::Wk;
+    return outcome;
+}
+
+CheckOutcome StructureCheck::refuse(FindingKind kind, CheckEvents &events)
+{
+    events.finding({.kind = kind});
+    return {.end = CheckEnd::Refused, .errors = 1};
+}
+
+CheckOutcome StructureCheck::reportEmpty(CheckEvents &events)
+{
+    events.finding({.kind = FindingKind::EmptyFile});
+    return {.end = CheckEnd::Empty, .errors = 1};
+}
+
+CheckOutcome StructureCheck::walk(CheckState state, CheckEvents &events, const BeforeLine &beforeLine)
+{
+    const bool isWh = m_rules.kind == FileKind::Wh;
+    LineCheck lines(m_rules, m_options.programVersion, state, events);
+    QStringView line;
+    while (m_reader->next(line)) {
+        if (line.isEmpty()) {
+            if (isWh && state.records < FewestRecords)
+                events.finding({.kind = FindingKind::TooFewRecords,
+                                .number = ++state.errors,
+                                .line = state.records + 1,
+                                .offset = m_reader->offset()});
+            break;
+        }
+        if (isWh && m_options.firstTwoLines && state.records == RecordsOfShortCheck)
+            break;
+        if (beforeLine && !beforeLine({m_reader->offset(), state}))
+            return {.end = CheckEnd::Cancelled, .records = state.records, .errors = state.errors};
+        if (const int field = lines.check(line, m_reader->offset())) {
+            const QString place = QString::number(field) + u" از خط شماره "_s + QString::number(state.records + 1);
+            return {.end = CheckEnd::Failed,
+                    .records = state.records,
+                    .errors = state.errors,
+                    .failure = error::TypeMismatch,
+                    .description = u"محتوي فيلد شماره "_s + place + u" با عدد مقايسه ميشود ولي عدد نيست"_s,
+                    .line = state.records + 1,
+                    .field = field};
+        }
+    }
+    events.finished();
+    return {.records = state.records, .errors = state.errors};
+}
+
+std::optional<FileKind> fileKindOf(QStringView path)
+{
+    for (const FileKind kind : {FileKind::Wh, FileKind::Wk}) {
+        if (hasNameOf(kind, path))
+            return kind;
+    }
+    return {};
+}
+
+std::optional<CheckBox> closingBox(FileKind kind, const CheckOutcome &outcome)
+{
+    if (outcome.end == CheckEnd::Failed)
+        return failureBox(kind, outcome);
+    if (outcome.end != CheckEnd::Finished)
+        return {};
+    const QString finished = checkWords(kind).finishedBox + u'\r';
+    if (outcome.errors == 0)
+        return CheckBox{ClosingStyle,
+                        {},
+                        finished + u"ساختار فايل متني صحيح ميباشد.با بستن اين فرم جزئيات بيشتر نمايش داده خواهد شد"_s};
+    return CheckBox{
+        ClosingStyle, u"خطا"_s,
+        finished + u"در ساختار فايل متني ايجاد شده تعداد : "_s + QString::number(outcome.errors)
+            + u"  خطا وجود دارد.اصلاح اين خطاها قبل از تسليم فايلهاي متني به اداره امور مالياتي الزامي ميباشد\r"_s
+            + u"جهت اطلاع از جزئيات اين خطا(ها)، اين فرم را ببنديد و گزارش ارائه شده را مطالعه نماييد\r"_s
+            + u"جهت سهولت و خوانايي متن ، کليه خطاها با علامت  ÷÷÷÷÷>  مشخص گرديده اند "_s};
+}
+
+QString progressText(qint64 records)
+{
+    return u"در حال خواندن و کنترل صحت اطلاعات فايل متني ، لطفا منتظر بمانيد ...  "_s + u"( تعداد = "_s
+           + QString::number(records) + u")"_s;
+}
+
+} // namespace zrv
