@@ -5,6 +5,7 @@
 #include "core/containers.h"
 #include "core/keyboard_layout.h"
 #include "core/mdlPublic.h"
+#include "core/public/program_version.h"
 #include "core/store/recordset.h"
 
 namespace zrv {
@@ -48,7 +49,7 @@ void frmEnterance_Door::Form_Load()
     warnOfSmallDisplay();
     m_program.StoreConnectionString = u"Provider = Microsoft.Jet.OLEDB.4.0;Data Source = "_s
                                       + m_platform.programFolder() + u"\\DBZorvan.mdb;Persist Security Info=False"_s;
-    m_program.ProgramVersion = u"( نسخه 1.1.38 - 89/03/03 )"_s;
+    m_program.ProgramVersion = CurrentProgramVersion.toString();
     setCaption(u"ورود  به  سيستم  ماليات  بر حقوق "_s + m_program.ProgramVersion);
     LabelFormHeader.setCaption(u"ورود  به  سيستم  ماليات  بر حقوق "_s + m_program.ProgramVersion);
     SwitchToLatinKeyboard(m_platform);

@@ -105,8 +105,6 @@ QStringView lineName(LineKind kind)
     }
 }
 
-} // namespace
-
 CatalogueEntry ruleEntry(const LineRules &line, const CheckRule &rule)
 {
     const Field &field = line.fields[static_cast<std::size_t>(rule.field) - 1];

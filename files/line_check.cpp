@@ -193,7 +193,7 @@ int LineCheck::checkField(const Field &field, QStringView value, std::span<const
         readNationalityAhead();
     if (const int compared = comparedField(field.number)) {
         if (!comparesAsNumber(m_fields[static_cast<std::size_t>(compared) - 1], m_compared))
-            return field.number;
+            return compared;
     }
     for (const CheckRule &rule : rules) {
         if (applies(rule))

@@ -1,0 +1,225 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "files/check_catalogue.h"
+#include "tests/files/check_fixture.h"
+#include "tools/zrvcheck/check_files.h"
+#include "tools/zrvcheck/file_list.h"
+
+#include <QDir>
+#include <QProcess>
+
+#include <set>
+
+#ifndef ZRVCHECK
+#define ZRVCHECK "zrvcheck" // the one on the path, where a test isn't told of another
+#endif
+
+namespace zrv::checktool {
+namespace {
+
+class ZrvCheck : public StructureCheckTest {
+protected:
+    struct Run {
+        int status = -1;
+        QString out;
+        QString err;
+    };
+
+    Run zrvcheck(const QStringList &words)
+    {
+        QProcess process;
+        process.setWorkingDirectory(m_folder.path());
+        process.start(QStringLiteral(ZRVCHECK), words);
+        EXPECT_TRUE(process.waitForFinished());
+        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
+                QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    void writeIn(const QString &folder, const QByteArray &bytes, const QString &name)
+    {
+        ASSERT_TRUE(QDir(m_folder.path()).mkpath(folder));
+        write(bytes, folder + u'/' + name);
+    }
+
+    const QByteArray m_good = utf16File({payerLine(), payeeLine()});
+};
+
+TEST_F(ZrvCheck, AGoodFileIsARowOfTheTableAndNothingElse)
+{
+    write(m_good, u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"WH138902.TXT"_s});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out, u"file           records    errors  first error\n"
+                       "WH138902.TXT         2         0\n"_s);
+    EXPECT_EQ(run.err, u""_s);
+}
+
+TEST_F(ZrvCheck, EachErrorIsALineAsCompilersWriteThem)
+{
+    write(utf16File({payerLine(), payeeLine().with(8, u"1a"_s).with(2, u""_s)}), u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"WH138902.TXT"_s});
+    EXPECT_EQ(run.status, 1);
+    const QStringList lines = run.out.split(u'\n');
+    EXPECT_TRUE(lines[0].startsWith(u"WH138902.TXT:2:2: 1: فيلد (نام دريافت کننده حقوق)"_s));
+    EXPECT_TRUE(lines[1].startsWith(u"WH138902.TXT:2:8: 2: وجود کاراکتر غير عددي"_s));
+    EXPECT_TRUE(lines[1].endsWith(u"( 97) ميباشد"_s));
+    EXPECT_EQ(lines[3], u"WH138902.TXT         2         2  2:2 wh.payee.Name.length"_s);
+}
+
+TEST_F(ZrvCheck, TheSummaryIsTheTableAlone)
+{
+    write(utf16File({payerLine()}), u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"--summary"_s, u"WH138902.TXT"_s});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.out.count(u'\n'), 2);
+    EXPECT_TRUE(run.out.endsWith(u"  2:0 too-few-records\n"_s));
+}
+
+TEST_F(ZrvCheck, AFolderStandsForTheElectronicFilesBelowIt)
+{
+    writeIn(u"b/1389"_s, m_good, u"WH138902.TXT"_s);
+    writeIn(u"b/1389"_s, utf16File({summaryLine()}), u"wk138902.txt"_s);
+    writeIn(u"b"_s, m_good, u"WH138901.TXT"_s);
+    writeIn(u"b"_s, m_good, u"other.TXT"_s);
+    writeIn(u"b"_s, m_good, u"WHOLE.TXT.TXT"_s);
+    EXPECT_EQ(filesOf({m_folder.filePath(u"b"_s)}).size(), 3);
+    const Run run = zrvcheck({u"b"_s});
+    EXPECT_EQ(run.status, 0) << run.out.toStdString();
+    EXPECT_EQ(run.out.count(u'\n'), 4);
+    writeIn(u"none"_s, m_good, u"other.TXT"_s);
+    EXPECT_EQ(zrvcheck({u"none"_s}).status, 2);
+}
+
+TEST_F(ZrvCheck, WhatCanNotBeReadIsSaidAndTheOthersAreChecked)
+{
+    write(m_good, u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"gone/WH138902.TXT"_s, u"WH138902.TXT"_s});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_TRUE(run.out.startsWith(u"gone/WH138902.TXT: the check ends here: 76 < "_s)) << run.out.toStdString();
+    EXPECT_TRUE(run.out.endsWith(u"WH138902.TXT              2         0\n"_s)) << run.out.toStdString();
+}
+
+TEST_F(ZrvCheck, AStoppedCheckIsAnErrorOfTheFile)
+{
+    write(utf16File({payerLine(), payeeLine().with(16, u""_s)}), u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"WH138902.TXT"_s});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_TRUE(run.out.startsWith(u"WH138902.TXT:2:16: the check ends here: 13 < "_s));
+}
+
+TEST_F(ZrvCheck, TheReportIsTheScreens)
+{
+    const QString path = write(utf16File({payerLine(), payeeLine().with(2, u"12"_s), u"bad"_s}), u"WH138902.TXT"_s);
+    options = {.onlyErrors = true, .firstTwoLines = true, .programVersion = CheckedVersion};
+    check(FileKind::Wh, path);
+    const Run run = zrvcheck({u"--report"_s, u"-"_s, u"--errors-only"_s, u"--first-two"_s, path});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_EQ(run.err, u""_s);
+    // The first and the last line have the time of the check.
+    QStringList made = run.out.split(u"\r\n"_s);
+    ASSERT_EQ(made.size(), report->lineCount() + 1);
+    EXPECT_EQ(made.last(), u""_s);
+    EXPECT_EQ(made.mid(1, made.size() - 3).join(u"\r\n"_s), report->lines(1, report->lineCount() - 2));
+    EXPECT_TRUE(made[0].startsWith(u" - در حال کنترل نام فايل ليست حقوق ... (تاريخ و زمان شروع"_s));
+}
+
+TEST_F(ZrvCheck, ReportsOfSeveralFilesFollowEachOtherInAFile)
+{
+    write(m_good, u"WH138902.TXT"_s);
+    write(utf16File({payerLine(), payeeLine().with(16, u""_s)}), u"WH138903.TXT"_s);
+    write(utf16File({summaryLine()}), u"WK138902.TXT"_s);
+    const Run run = zrvcheck({u"--report=all"_s, u"WH138902.TXT"_s, u"WH138903.TXT"_s, u"WK138902.TXT"_s});
+    EXPECT_EQ(run.status, 1);
+    QFile file(m_folder.filePath(u"all"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QString reports = QString::fromUtf8(file.readAll());
+    EXPECT_EQ(reports.count(u"در حال کنترل نام فايل"_s), 2) << "a salary list's report is lost where its check stops";
+    EXPECT_TRUE(run.out.contains(u"WH138903.TXT:2:16: "_s));
+}
+
+TEST_F(ZrvCheck, OddFilesHaveANote)
+{
+    write(m_good + "x", u"WH138902.TXT"_s);
+    write(QString(summaryLine()).toUtf8(), u"WK138902.TXT"_s);
+    const Run run = zrvcheck({u"."_s});
+    EXPECT_TRUE(run.out.contains(u"WH138902.TXT: note: its length is odd"_s));
+    EXPECT_TRUE(run.out.contains(u"WK138902.TXT: note: it doesn't begin with the mark"_s));
+}
+
+TEST_F(ZrvCheck, ControlCharactersOfAFileDoNotReachTheTerminal)
+{
+    write(utf16File({payerLine(), QString(payeeLine()) + u",\x1b[2Jx\ny"_s}), u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"WH138902.TXT"_s});
+    EXPECT_FALSE(run.out.contains(QChar(0x1b)));
+    EXPECT_TRUE(run.out.contains(u"« \uFFFD[2Jx\uFFFDy»"_s));
+}
+
+TEST_F(ZrvCheck, WrongWordsAreRefused)
+{
+    for (const QStringList &words : {QStringList{}, QStringList{u"--wrong"_s, u"x"_s}, QStringList{u"--report"_s},
+                                     QStringList{u"--summary=1"_s, u"x"_s}, QStringList{u""_s}}) {
+        const Run run = zrvcheck(words);
+        EXPECT_EQ(run.status, 2);
+        EXPECT_TRUE(run.err.startsWith(u"zrvcheck: "_s));
+        EXPECT_EQ(run.out, u""_s);
+    }
+    EXPECT_EQ(zrvcheck({u"--help"_s}).status, 0);
+    EXPECT_EQ(zrvcheck({u"--version"_s}).out, u"zrvcheck 1.1.38\n"_s);
+}
+
+TEST_F(ZrvCheck, ARefusedReportFileIsSaid)
+{
+    write(m_good, u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"--report"_s, u"none/report"_s, u"WH138902.TXT"_s});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_TRUE(run.err.startsWith(u"zrvcheck: "_s));
+}
+
+TEST_F(ZrvCheck, EveryFindingIsListedUnderANameOfItsOwn)
+{
+    const QString out = zrvcheck({u"--rules"_s}).out;
+    std::set<QString> names;
+    for (const CatalogueEntry &entry : checkCatalogue()) {
+        EXPECT_TRUE(names.insert(entry.name).second) << entry.name.toStdString();
+        EXPECT_TRUE(
+            out.contains(entry.name + u"\n    "_s + entry.meaning + u"\n    to mend it: "_s + entry.remedy + u'\n'));
+        EXPECT_FALSE(entry.meaning.isEmpty() || entry.remedy.isEmpty());
+    }
+    EXPECT_EQ(names.size(), 40u + 73u + 55u + 9u);
+    EXPECT_TRUE(
+        out.contains(u"wh.payer.TIN.length.legal\n    field 10 of a legal person (field 5 of line 1 is 2) has exactly "
+                     "12 characters\n    to mend it: write it with 12 characters\n"_s));
+}
+
+TEST_F(ZrvCheck, TheOutputIsInTheFilesOrderWhateverTheNumberOfThreads)
+{
+    QStringList files;
+    for (int i = 0; i < 40; ++i) {
+        QStringList lines(i % 7 == 0 ? 3000 : 3, payeeLine().with(2, QString::number(i)));
+        lines[0] = payerLine();
+        files += write(utf16File(lines), u"WH1389%1.TXT"_s.arg(i, 2, 10, QChar(u'0')));
+    }
+    QByteArray outputs[2];
+    for (const unsigned threads : {1u, 4u}) {
+        QByteArray &out = outputs[threads == 1 ? 0 : 1];
+        OrderedOutput list([&](QByteArrayView text) { out.append(text); });
+        const auto results = checkFiles({files, Request{}, StandingClock, threads}, list, nullptr);
+        list.finish();
+        EXPECT_EQ(results[0].errors, 2999);
+        EXPECT_EQ(results[39].errors, 2);
+        EXPECT_EQ(results[39].path, files[39]);
+        EXPECT_EQ(exitStatus(results), 1);
+    }
+    EXPECT_GT(outputs[0].size(), 1'000'000);
+    EXPECT_EQ(outputs[0], outputs[1]);
+}
+
+TEST_F(ZrvCheck, AnOutputThatFailsIsHeardOfAtTheEnd)
+{
+    const QString file = write(utf16File({payerLine()}), u"WH138902.TXT"_s);
+    OrderedOutput list([](QByteArrayView) { throw Refusal(u"full"_s); });
+    (void)checkFiles({{file, file, file}, Request{}, StandingClock, 2}, list, nullptr);
+    EXPECT_THROW(list.finish(), Refusal);
+}
+
+} // namespace
+} // namespace zrv::checktool
