@@ -42,6 +42,8 @@ public:
     virtual ~CheckEvents() = default;
 
     virtual void finding(const Finding &finding) = 0;
+    /// True leaves the check free to pass over faultless lines without a word.
+    [[nodiscard]] virtual bool wantsErrorsAlone() const { return false; }
 
     virtual void started() {}
     virtual void nameAccepted() {}

@@ -16,7 +16,6 @@
 namespace zrv {
 namespace {
 
-constexpr std::size_t BlockUnits = 131072;  // 256 KiB
 constexpr std::size_t MostUnits = 16777216; // of a line, with its end
 constexpr qint64 UnitBytes = sizeof(char16_t);
 
@@ -48,8 +47,9 @@ qint32 openingFailure(int cause, const QString &path)
 
 } // namespace
 
-LineReader::LineReader(const QString &path)
+LineReader::LineReader(const QString &path, std::size_t blockUnits)
     : m_path(path)
+    , m_blockUnits(blockUnits)
 {
     // Without O_NONBLOCK a pipe would keep us waiting for whoever writes into it.
     m_file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
@@ -124,6 +124,17 @@ bool LineReader::next(QStringView &line)
     return true;
 }
 
+QStringView LineReader::ahead() const
+{
+    return {m_block.data() + m_begin, m_block.data() + m_used};
+}
+
+void LineReader::pass(std::size_t units)
+{
+    m_begin += units;
+    m_scanned = m_begin;
+}
+
 /// Reads on behind what is there, false at the file's end.
 bool LineReader::fill()
 {
@@ -138,7 +149,7 @@ bool LineReader::fill()
     if (m_used == m_block.size()) {
         if (m_used >= MostUnits)
             fail(error::OutOfMemory, u"يکي از خطوط فايل بيش از 16 ميليون حرف دارد و فايل حقوق يا خلاصه ليست نيست");
-        m_block.resize(std::max(BlockUnits, m_block.size() * 2));
+        m_block.resize(std::max(m_blockUnits, m_block.size() * 2));
     }
     const qint64 wanted = std::min(static_cast<qint64>(m_block.size() - m_used) * UnitBytes, m_end - m_read);
     ssize_t read = 0;

@@ -26,7 +26,10 @@ struct FileOddities {
 /// the disk fails or the file becomes shorter while it is read, and OutOfMemory for a longer line.
 class LineReader {
 public:
-    explicit LineReader(const QString &path);
+    static constexpr std::size_t DefaultBlock = 131072; ///< 256 KiB
+
+    /// Reads so many units at once, 2 at least.
+    explicit LineReader(const QString &path, std::size_t blockUnits = DefaultBlock);
     ~LineReader();
     LineReader(const LineReader &) = delete;
     LineReader &operator=(const LineReader &) = delete;
@@ -39,6 +42,11 @@ public:
 
     /// The next line, which stays valid until the next call; false behind the last.
     bool next(QStringView &line);
+    /// What is in memory of the lines to come, from the next one's beginning on; may be empty, and end in mid-line.
+    [[nodiscard]] QStringView ahead() const;
+    /// The next line will be the one that begins so many units on, within what is ahead.
+    void pass(std::size_t units);
+
     /// Where the line given last, or before any the first one, begins, in bytes from the file's beginning.
     [[nodiscard]] qint64 offset() const { return m_lineOffset; }
     /// The next line will be the one that begins there.
@@ -60,6 +68,7 @@ private:
     qint64 m_first = 0; ///< byte of the first line
     qint64 m_end = 0;   ///< byte behind the last whole letter
 
+    std::size_t m_blockUnits;
     std::vector<char16_t> m_block;
     std::size_t m_begin = 0;   ///< of what was not given yet
     std::size_t m_scanned = 0; ///< no line ends before it

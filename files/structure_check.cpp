@@ -4,6 +4,7 @@
 #include "core/basic/run_time_error.h"
 #include "core/platform/platform.h"
 #include "files/check_words.h"
+#include "files/faultless_lines.h"
 
 #include <utility>
 
@@ -63,7 +64,7 @@ CheckOutcome StructureCheck::run(CheckEvents &events, const BeforeLine &beforeLi
         return refuse(FindingKind::WrongName, events);
     events.nameAccepted();
     return guarded([&] {
-        m_reader = std::make_unique<LineReader>(m_path);
+        m_reader = std::make_unique<LineReader>(m_path, m_options.blockUnits);
         return m_reader->isEmpty() ? reportEmpty(events) : walk({}, events, beforeLine);
     });
 }
@@ -112,8 +113,15 @@ CheckOutcome StructureCheck::walk(CheckState state, CheckEvents &events, const B
 {
     const bool isWh = m_rules.kind == FileKind::Wh;
     LineCheck lines(m_rules, m_options.programVersion, state, events);
+    const FaultlessLines faultless(m_rules.rest, m_options.masks);
+    const bool passesOver = isWh && events.wantsErrorsAlone() && !m_options.firstTwoLines;
+    const auto next = [&](QStringView &line) {
+        if (passesOver && state.records > 0)
+            m_reader->pass(faultless.skip(m_reader->ahead(), state));
+        return m_reader->next(line);
+    };
     QStringView line;
-    while (m_reader->next(line)) {
+    while (next(line)) {
         if (line.isEmpty()) {
             if (isWh && state.records < FewestRecords)
                 events.finding({.kind = FindingKind::TooFewRecords,

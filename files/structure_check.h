@@ -16,11 +16,19 @@
 //     });
 //     if (outcome.showsReport)
 //         the text box shows m_report->lineCount() lines, each asked of m_report->lines() when it comes into view;
+//     if (a log is wanted and outcome.end == CheckEnd::Finished) {
+//         SafeFile file(logPath);
+//         ReportLog log(file); // of report_writer.h
+//         m_report->write(log);
+//         log.finish();
+//         file.commit();
+//     }
 //     if (const auto box = closingBox(FileKind::Wh, outcome))
 //         platform.messageBox(box->style, box->title, box->text);
 
 #include "files/line_check.h"
 #include "files/line_reader.h"
+#include "files/unit_masks.h"
 
 #include <functional>
 #include <memory>
@@ -32,6 +40,10 @@ struct CheckOptions {
     bool onlyErrors = false;    ///< the report leaves out what passed
     bool firstTwoLines = false; ///< of a WH file the payer and the first payee only
     QString programVersion;     ///< the checking program's version text
+
+    // They make no difference to what is found: tests and measurements choose.
+    MaskMaker masks = bestMaskMaker();
+    std::size_t blockUnits = LineReader::DefaultBlock;
 };
 
 /// A place between two lines, from which the check can go on.
@@ -62,7 +74,8 @@ struct CheckOutcome {
     FileOddities oddities;
 };
 
-/// Called before each line. False cancels the run.
+/// Called before each line that is looked at field by field, with events that want errors alone now and then. False
+/// cancels the run.
 using BeforeLine = std::function<bool(const CheckPlace &)>;
 
 class StructureCheck {

@@ -79,6 +79,7 @@ public:
     {
     }
 
+    [[nodiscard]] bool wantsErrorsAlone() const override { return true; }
     void finding(const Finding &finding) override
     {
         if (m_result.firstError.isEmpty())

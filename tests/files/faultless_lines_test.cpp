@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+// Whether passing over faultless lines ever changes what is found: files damaged at random, checked field by field and
+// with every kind of instructions and several sizes of blocks.
+
+#include "tests/files/check_fixture.h"
+
+#include <random>
+
+namespace zrv {
+namespace {
+
+/// Every finding in words, a line each.
+class FindingList : public CheckEvents {
+public:
+    FindingList(bool errorsAlone)
+        : m_errorsAlone(errorsAlone)
+    {
+    }
+    bool wantsErrorsAlone() const override { return m_errorsAlone; }
+    void finding(const Finding &finding) override
+    {
+        text += QString::number(finding.number) + u' ' + QString::number(finding.line) + u' '
+                + QString::number(finding.field) + u' ' + QString::number(finding.offset) + u' '
+                + findingWords(whRules(), finding, CheckedVersion) + u'\n';
+    }
+    void lineBegins(qint64) override { ++linesLookedAt; }
+
+    QString text;
+    int linesLookedAt = 0;
+
+private:
+    bool m_errorsAlone;
+};
+
+class FaultlessLinesTest : public StructureCheckTest {
+protected:
+    /// What is found, and how the run ended.
+    QString found(const QString &path, bool errorsAlone, MaskMaker masks, std::size_t block)
+    {
+        options.masks = masks;
+        options.blockUnits = block;
+        FindingList list(errorsAlone);
+        const CheckOutcome ended = StructureCheck(whRules(), path, options).run(list);
+        linesLookedAt = list.linesLookedAt;
+        return list.text + QString::number(int(ended.end)) + u' ' + QString::number(ended.records) + u' '
+               + QString::number(ended.errors) + u' ' + QString::number(ended.line) + u' '
+               + QString::number(ended.field);
+    }
+
+    static std::vector<MaskMaker> makers()
+    {
+        std::vector<MaskMaker> found;
+        for (const Instructions one : {Instructions::Plain, Instructions::Sse2, Instructions::Avx2}) {
+            if (maskMaker(one))
+                found.push_back(maskMaker(one));
+        }
+        return found;
+    }
+
+    int linesLookedAt = 0;
+};
+
+TEST_F(FaultlessLinesTest, EveryMaskMakerSeesTheSame)
+{
+    std::mt19937 dice(1);
+    constexpr char16_t Letters[] = u"0190,\r\n /:\0aعی\u0130\u2C2C\u0A0D\xD800\uFFFF\uFF0C";
+    for (int round = 0; round < 2000; ++round) {
+        std::array<char16_t, UnitsPerMask> units{};
+        for (char16_t &unit : units)
+            unit = Letters[dice() % (std::size(Letters) - 1)];
+        UnitMasks expected{};
+        for (std::size_t i = 0; i < units.size(); ++i) {
+            expected.comma |= std::uint64_t(units[i] == u',') << i;
+            expected.carriageReturn |= std::uint64_t(units[i] == u'\r') << i;
+            expected.lineFeed |= std::uint64_t(units[i] == u'\n') << i;
+            expected.digit |= std::uint64_t(units[i] >= u'0' && units[i] <= u'9') << i;
+        }
+        for (MaskMaker const maker : makers()) {
+            const UnitMasks masks = maker(units.data());
+            EXPECT_EQ(masks.comma, expected.comma);
+            EXPECT_EQ(masks.carriageReturn, expected.carriageReturn);
+            EXPECT_EQ(masks.lineFeed, expected.lineFeed);
+            EXPECT_EQ(masks.digit, expected.digit);
+        }
+    }
+}
+
+TEST_F(FaultlessLinesTest, GoodLinesAreMostlyPassedOver)
+{
+    QStringList lines(5000, payeeLine());
+    lines[0] = payerLine();
+    for (int i = 1; i + 1 < 5000; i += 3) {
+        lines[i] = foreignPayeeLine();
+        lines[i + 1] = payeeLine().with(14, u"0"_s).with(15, u"بيمه ايران"_s).with(6, u""_s).with(20, u""_s);
+    }
+    const QString path = write(utf16File(lines), u"WH138902.TXT"_s);
+    for (MaskMaker const maker : makers()) {
+        EXPECT_EQ(found(path, true, maker, LineReader::DefaultBlock), u"0 5000 0 0 0"_s);
+        EXPECT_LT(linesLookedAt, 50);
+    }
+}
+
+/// One damage at a random place; most leave a line with an error, some don't.
+void damage(QString &text, std::mt19937 &dice)
+{
+    static const QStringList Pieces = {u","_s,
+                                       u",,"_s,
+                                       u"\r"_s,
+                                       u"\n"_s,
+                                       u"\r\n"_s,
+                                       u"\r\n\r\n"_s,
+                                       u"1"_s,
+                                       u"0"_s,
+                                       u"a"_s,
+                                       u" "_s,
+                                       u"."_s,
+                                       u"-"_s,
+                                       u"ع"_s,
+                                       u"١"_s,
+                                       u"\u2C2C"_s,
+                                       u"\u0A0D"_s,
+                                       u"\u0130"_s,
+                                       QString(QChar(0xD800)),
+                                       QString(QChar(0)),
+                                       u"1234567890123456789012345678901234567890"_s};
+    const auto at = qsizetype(dice() % std::size_t(text.size() - 1)) + 1;
+    switch (dice() % 5) {
+    case 0:
+        text.remove(at, 1 + qsizetype(dice() % 3));
+        break;
+    case 1:
+        text.replace(at, 1, Pieces[qsizetype(dice() % std::size_t(Pieces.size()))]);
+        break;
+    case 2:
+        // A whole field goes.
+        if (const qsizetype comma = text.indexOf(u',', at); comma > 0) {
+            const qsizetype end = text.indexOf(u',', comma + 1);
+            text.remove(comma + 1, std::max<qsizetype>(0, end - comma - 1));
+        }
+        break;
+    default:
+        text.insert(at, Pieces[qsizetype(dice() % std::size_t(Pieces.size()))]);
+    }
+}
+
+TEST_F(FaultlessLinesTest, DamagedFilesHaveTheSameErrorsHoweverTheyAreRead)
+{
+    std::mt19937 dice(7);
+    const QStringList good = {payeeLine(),
+                              foreignPayeeLine(),
+                              payeeLine().with(14, u"0"_s).with(15, u"بيمه"_s),
+                              payeeLine().with(6, u""_s),
+                              payeeLine().with(1, u"0012345679"_s),
+                              payeeLine().with(16, u"0"_s)};
+    for (int round = 0; round < 150; ++round) {
+        QString text = payerLine();
+        for (int line = 0; line < 60; ++line)
+            text += u"\r\n"_s + good[qsizetype(dice() % (round % 3 == 0 ? 6 : 4))];
+        text += u"\r\n"_s;
+        for (int i = 0; i < round % 12; ++i)
+            damage(text, dice);
+        text.prepend(QChar(QChar::ByteOrderMark));
+        const QString path = write(
+            QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2 - round % 2), u"WH138902.TXT"_s);
+        const QString expected = found(path, false, bestMaskMaker(), LineReader::DefaultBlock);
+        for (MaskMaker const maker : makers()) {
+            for (const std::size_t block : {2, 100, 1001, 131072})
+                ASSERT_EQ(found(path, true, maker, block), expected) << "round " << round << ", block " << block;
+        }
+    }
+}
+
+} // namespace
+} // namespace zrv
