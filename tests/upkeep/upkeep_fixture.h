@@ -17,6 +17,10 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+#ifndef ZRVSTORE
+#define ZRVSTORE "zrvstore" // the one on the path, where a test isn't told of another
+#endif
+
 namespace zrv {
 
 using namespace Qt::Literals::StringLiterals;
