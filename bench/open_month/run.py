@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""How long does a month of 10,000 salaries take to open, as a part of the bare query of its rows in their order?
+"""How long does a month of 10,000 salaries take to open, as a multiple of the bare queries of what it shows?
 
 usage: run.py [--build DIR] [--work DIR] [--payees N] [--rounds R]
 
