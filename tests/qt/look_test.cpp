@@ -107,6 +107,7 @@ TEST(Look, RedBorderIsSeenInsideTheFocusRing)
     auto *const field = new QLineEdit(&window);
     look::makeSearching(*field);
     window.show();
+    window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     field->setFocus();
     EXPECT_TRUE(hasBorder(*field, look::palette().color(QPalette::Highlight)));

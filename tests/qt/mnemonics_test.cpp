@@ -43,6 +43,10 @@ protected:
     /// As a display sends it: Qt's own marks see the key first.
     void pressAlt(int key, Qt::KeyboardModifiers modifiers = Qt::AltModifier)
     {
+        // On a display the window of the test before may take the focus with it as it goes.
+        if (!QApplication::focusWidget())
+            shown.window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }));
         QWidget &focused = *QApplication::focusWidget();
         const QString text(QChar(static_cast<char16_t>(key)));
         if (!qt_sendShortcutOverrideEvent(&focused, 0, key, modifiers, text))
