@@ -117,7 +117,7 @@ CheckOutcome CheckReport::run(const BeforeLine &beforeLine)
     Measure measure;
     bool isStarted = false;
     const ReportClock clock = [&] {
-        const QString now = m_clock();
+        QString now = m_clock();
         (std::exchange(isStarted, true) ? m_finished : m_started) = now;
         return now;
     };
