@@ -5,6 +5,7 @@
 #include "core/containers.h"
 #include "core/keyboard_layout.h"
 #include "core/mdlPublic.h"
+#include "core/old_store.h"
 #include "core/public/program_version.h"
 #include "core/store/recordset.h"
 
@@ -60,6 +61,7 @@ void frmEnterance_Door::Form_Load()
     // The second text replaces the first at once; both are set because either alone is a screen users know.
     Label1.setCaption(u" تاريخ ورود به سيستم : "_s + u" "_s + SolarDate(today));
     Label1.setCaption(u" امروز : "_s + u" "_s + LongSolarDate(today, today));
+    takeOverOldStore(m_platform);
 }
 
 void frmEnterance_Door::warnOfSmallDisplay()
@@ -125,6 +127,8 @@ void frmEnterance_Door::cmdKeyOk_Click()
         (noName ? txtUsernamee : txtPasswordd).setFocus();
         return;
     }
+    // What kept it from being taken over at the start may be mended by now.
+    takeOverOldStore(m_platform);
     bool known = false;
     {
         const Connection connection(m_program.StoreConnectionString);

@@ -3,6 +3,7 @@
 
 #include "core/basic/run_time_error.h"
 #include "core/mdlError.h"
+#include "core/platform/tool_process.h"
 #include "qt/form_window.h"
 #include "qt/look.h"
 #include "qt/preview/preview_window.h"
@@ -170,6 +171,11 @@ std::optional<QString> QtPlatform::openFileDialog(const QString &folder, const Q
     if (dialog.result() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return dialog.selectedFiles().constFirst();
+}
+
+ToolEnd QtPlatform::runTool(const QString &tool, const QStringList &words)
+{
+    return runToolIn(QCoreApplication::applicationDirPath(), tool, words);
 }
 
 void QtPlatform::viewFile(const QString &path)

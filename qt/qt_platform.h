@@ -46,6 +46,7 @@ public:
     quint32 keyboardLayout() override;
     void activateKeyboardLayout(quint32 layout) override;
     void yield() override;
+    ToolEnd runTool(const QString &tool, const QStringList &words) override;
 
     /// The window of an open form; null when it has none.
     [[nodiscard]] FormWindow *windowOf(const Form &form) const;

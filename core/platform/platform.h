@@ -4,6 +4,7 @@
 #include <QDate>
 #include <QSize>
 #include <QString>
+#include <QStringList>
 #include <QTime>
 
 #include <optional>
@@ -35,6 +36,13 @@ inline constexpr int AskYesNo = Question | YesNo;                      ///< 36
 } // namespace box
 
 enum class Answer { Ok, Yes, No };
+
+/// How a tool ended: its exit status, and what it wrote.
+struct ToolEnd {
+    int exitCode = -1; ///< below 0: it couldn't be run, or did not come to its end
+    QString output;
+    QString errors;
+};
 
 /// Everything the screens ask of the world outside: boxes, other windows, files to choose, the clock, settings,
 /// the keyboard. The window side has the real one, the tests a scripted one; no screen uses anything else.
@@ -80,6 +88,9 @@ public:
     /// Gives the windows time to draw and the user's input time to come in, inside a long operation. What the
     /// user does to a busy form is dropped (see Form).
     virtual void yield() = 0;
+
+    /// Runs a tool that comes with the program, without a window and in a process of its own, and waits for its end.
+    virtual ToolEnd runTool(const QString &tool, const QStringList &words) = 0;
 };
 
 } // namespace zrv

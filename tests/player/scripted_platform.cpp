@@ -2,6 +2,7 @@
 #include "tests/player/scripted_platform.h"
 
 #include "core/forms/form.h"
+#include "core/platform/tool_process.h"
 #include "tests/player/word.h"
 
 #include <QCoreApplication>
@@ -63,6 +64,11 @@ Answer ScriptedPlatform::messageBox(int style, const QString &title, const QStri
     m_transcript.line(u"box "_s + styleText(style) + u' ' + quotedWord(title) + u' ' + quotedWord(text) + u" -> "_s
                       + answerText(shown.answer));
     return shown.answer;
+}
+
+ToolEnd ScriptedPlatform::runTool(const QString &tool, const QStringList &words)
+{
+    return runToolIn(QCoreApplication::applicationDirPath(), tool, words);
 }
 
 void ScriptedPlatform::runModal(Form &form)

@@ -91,6 +91,8 @@ public:
     quint32 keyboardLayout() override { return m_layout; }
     void activateKeyboardLayout(quint32 layout) override { m_layout = layout; }
     void yield() override { yields(); }
+    /// The real one, which lies beside the player; what it does is seen in the sitting's folder.
+    ToolEnd runTool(const QString &tool, const QStringList &words) override;
 
 private:
     QString m_folder;

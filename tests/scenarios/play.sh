@@ -22,6 +22,7 @@ make_store() {
     read -ra words < <(sed -n -e '/^#/!q' -e 's/^#store //p' "$scenario" | head -n 1) || true
     case ${words[0]-none} in
         none) ;;
+        old) "$bin/zrvjet" "$1" "${words[@]:1}" ;;
         *) "$bin/zrvstore" "${words[0]}" "$1" "${words[@]:1}" >/dev/null ;;
     esac
 }

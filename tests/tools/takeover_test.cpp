@@ -3,6 +3,7 @@
 #include "tools/zrvstore/letters.h"
 #include "tools/zrvstore/takeover_report.h"
 
+#include <algorithm>
 #include <csignal>
 #include <ctime>
 #include <sys/resource.h>
@@ -197,6 +198,21 @@ TEST_F(TakeoverTest, SomeOfTheColumnsOfOneVersionAreDoubtful)
                               " [missing-column]"_s))
         << told.join(u'\n').toStdString();
     EXPECT_EQ(told.last(), u"doubts: 1"_s);
+}
+
+TEST_F(TakeoverTest, AWidthThatIsTooSmallIsADoubtUnlessOlderVersionsHadIt)
+{
+    std::vector<jettest::Table> tables = oldStore(Age::Old);
+    jettest::Table &summaries = tableOf(tables, u"ZRVtbKholList");
+    const auto setWidth = [&](const QString &column, int width) {
+        std::ranges::find(summaries.shape.columns, column, &ColumnShape::name)->width = width;
+    };
+    setWidth(u"KarkonanNo"_s, 6);
+    setWidth(u"ChequeSeriNo"_s, 6);
+    EXPECT_EQ(takenOver(write(jetFile(tables))).last(), u"doubts: 0"_s);
+    QDir(in(u"new"_s)).removeRecursively();
+    setWidth(u"KarkonanNo"_s, 5);
+    EXPECT_EQ(takenOver(write(jetFile(tables))).last(), u"doubts: 1"_s);
 }
 
 TEST_F(TakeoverTest, ARowCountThatIsWrongIsAFaultAndOneThatWasNotWrittenADoubt)

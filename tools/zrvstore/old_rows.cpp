@@ -17,6 +17,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+/// A file with so many is hopeless, and reading on would only take time.
+constexpr qint64 MostFaults = 1'000;
+
 class RowCheck {
 public:
     RowCheck(const OldTable &table, bool asStored, TakeoverReport &report)
@@ -152,7 +155,7 @@ void checkOldRows(const OldTable &table, bool asStored, TakeoverReport &report)
 {
     RowCheck check(table, asStored, report);
     qint64 loose = 0;
-    for (std::size_t number = 0; number < table.rows.size(); ++number) {
+    for (std::size_t number = 0; number < table.rows.size() && report.faults() < MostFaults; ++number) {
         check.check(number);
         loose += !jet::Row(table.rows[number].bytes, table.definition).isTight();
     }

@@ -35,7 +35,8 @@ void checkWidth(const QString &table, const ColumnShape &wanted, int width, Take
 {
     const QString where = table + u' ' + wanted.name;
     const QString widths = QString::number(width) + u" wide instead of "_s + QString::number(wanted.width);
-    if (width > wanted.width || isAdded(table, wanted.name) || isWidened(table, wanted.name))
+    if (width > wanted.width || isAdded(table, wanted.name) || isWidened(table, wanted.name)
+        || isOlderWidth(table, wanted.name, width))
         report.note(finding::ColumnWidth, where, widths);
     else
         report.doubt(finding::ColumnWidth, where, widths);

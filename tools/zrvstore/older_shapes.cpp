@@ -38,6 +38,15 @@ constexpr ColumnName Optional[] = {
 
 /// Were narrower once; the program's repair widens them.
 constexpr ColumnName Widened[] = {{u"ZRVtbKarfarma", u"CodeShobe"}, {u"ZRVtbKholList", u"ChequeSeriNo"}};
+
+struct OlderWidth {
+    ColumnName name;
+    int width;
+};
+constexpr OlderWidth OlderWidths[] = {
+    {{u"ZRVtbKholList", u"KarkonanNo"}, 6},
+    {{u"ZRVtbKholList", u"KharejiNo"}, 4},
+};
 // clang-format on
 
 template <std::size_t Size>
@@ -69,6 +78,14 @@ bool isOptional(QStringView table, QStringView column)
 bool isWidened(QStringView table, QStringView column)
 {
     return contains(Widened, table, column);
+}
+
+bool isOlderWidth(QStringView table, QStringView column, int width)
+{
+    return std::ranges::any_of(OlderWidths, [&](const OlderWidth &older) {
+        return older.width == width && older.name.table.compare(table, Qt::CaseInsensitive) == 0
+               && older.name.column.compare(column, Qt::CaseInsensitive) == 0;
+    });
 }
 
 } // namespace zrv::storetool

@@ -16,4 +16,7 @@ namespace zrv::storetool {
 /// Was narrower once; the program's repair widens it.
 [[nodiscard]] bool isWidened(QStringView table, QStringView column);
 
+/// Older versions had it so wide, which holds every number; this one's width has room for a separator as well.
+[[nodiscard]] bool isOlderWidth(QStringView table, QStringView column, int width);
+
 } // namespace zrv::storetool

@@ -5,14 +5,12 @@
 #include "core/store/new_store.h"
 #include "tools/jet/read_file.h"
 #include "tools/jet/refused.h"
-#include "tools/zrvstore/database.h"
 #include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/kept_original.h"
 #include "tools/zrvstore/old_rows.h"
 #include "tools/zrvstore/old_store.h"
 #include "tools/zrvstore/store_folder.h"
 #include "tools/zrvstore/verify.h"
-#include "tools/zrvstore/verify_shape.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -83,20 +81,6 @@ std::vector<TableShape> shapesOf(const OldStore &old)
     return shapes;
 }
 
-/// Says how many things verify finds in the values and sums of the new store; its shape has been told already.
-void tellFindings(const QString &path, const Findings::Sink &sink)
-{
-    const auto nowhere = [](const QString &) {};
-    Findings ofShape(nowhere, 1);
-    Findings ofRows(nowhere, 1);
-    Database database(path);
-    database.run(u"BEGIN"_s);
-    checkRows(database, checkShape(database, ofShape), ofRows);
-    const qint64 count = ofRows.finish();
-    if (count > 0)
-        sink(u"note zrvstore verify has "_s + QString::number(count) + u" things to say about the values and sums"_s);
-}
-
 } // namespace
 
 qint64 takeOver(const QString &file, const QString &folder, bool asStored, const Findings::Sink &sink)
@@ -127,13 +111,7 @@ qint64 takeOver(const QString &file, const QString &folder, bool asStored, const
     } catch (const RunTimeError &error) {
         fail(u"can't make the store: "_s + error.description(), CannotWrite);
     }
-    const qint64 doubts = report.findings().finish();
-    try {
-        tellFindings(path, sink);
-    } catch (const Failure &failure) {
-        sink(u"note the new store could not be verified: "_s + failure.reason());
-    }
-    return doubts;
+    return report.findings().finish();
 }
 
 } // namespace zrv::storetool

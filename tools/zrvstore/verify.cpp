@@ -18,10 +18,9 @@ const FoundTable &named(const std::vector<FoundTable> &tables, QStringView name)
     return *std::ranges::find_if(tables, [&](const FoundTable &table) { return table.shape->name == name; });
 }
 
-} // namespace
-
-void checkRows(const Database &database, const std::vector<FoundTable> &tables, Findings &findings)
+void checkAll(const Database &database, Findings &findings)
 {
+    const std::vector<FoundTable> tables = checkShape(database, findings);
     for (const FoundTable &table : tables)
         checkKeys(database, table, findings);
 
@@ -35,6 +34,8 @@ void checkRows(const Database &database, const std::vector<FoundTable> &tables, 
     const SumsOfMonths sums = checkSalaries(database, named(tables, u"ZRVtbHogog"), payees, lists, payers, findings);
     checkSummaries(database, named(tables, u"ZRVtbKholList"), lists, payers, sums, findings);
 }
+
+} // namespace
 
 void refuseDamage(Database &database, Findings &findings)
 {
@@ -58,7 +59,7 @@ qint64 verifyStore(const QString &path, const Findings::Sink &sink, int mostOfAK
     Database database(path);
     database.run(u"BEGIN"_s);
     refuseDamage(database, findings);
-    checkRows(database, checkShape(database, findings), findings);
+    checkAll(database, findings);
     return findings.finish();
 }
 

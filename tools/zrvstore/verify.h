@@ -5,12 +5,9 @@
 
 #include <QString>
 
-#include <vector>
-
 namespace zrv::storetool {
 
 class Database;
-struct FoundTable;
 
 inline constexpr int MostOfAKind = 20;
 
@@ -22,8 +19,5 @@ inline constexpr int MostOfAKind = 20;
 
 /// Raises Failure if SQLite's own check of a whole file finds it damaged; tells `findings` the damage first.
 void refuseDamage(Database &database, Findings &findings);
-
-/// The part of it that reads the rows: each value, the keys, the sums.
-void checkRows(const Database &database, const std::vector<FoundTable> &tables, Findings &findings);
 
 } // namespace zrv::storetool

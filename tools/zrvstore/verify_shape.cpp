@@ -76,6 +76,8 @@ void checkWidth(const TableShape &table, const ColumnShape &wanted, int width, F
         findings.add(finding::ColumnWidth, where, widths + u": an older store, the program's repair widens it"_s);
     else if (table.name == u"ZRVtbHogog" && isAdded(table.name, wanted.name) && width >= UpgradedAmount)
         findings.note(finding::ColumnWidth, where, widths + u", as an upgrade leaves it"_s);
+    else if (isOlderWidth(table.name, wanted.name, width))
+        findings.note(finding::ColumnWidth, where, widths + u", as in older versions"_s);
     else
         findings.add(finding::ColumnWidth, where, widths);
 }

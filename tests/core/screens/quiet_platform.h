@@ -24,6 +24,7 @@ public:
     quint32 keyboardLayout() override { return 0; }
     void activateKeyboardLayout(quint32) override {}
     void yield() override {}
+    ToolEnd runTool(const QString &, const QStringList &) override { return {}; }
 };
 
 } // namespace zrv
