@@ -14,10 +14,10 @@ QLayout *keys(LayoutBuilder &b)
 {
     return b.line({
         b.inside(u"framKey",
-                 b.line({u"lblTaxYear", b.narrow(u"txtTaxYear", 6), u"lblTaxMonth", b.narrow(u"dcbTaxMonth", 13),
+                 b.line({u"lblTaxYear", b.narrow(u"txtTaxYear", 5), u"lblTaxMonth", b.narrow(u"dcbTaxMonth", 11),
                          b.narrow(u"cmdKeyOk", 7), b.narrow(u"cmdKeyReturn", 7)})),
         b.wide(b.inside(u"framKey1", b.line({u"lblMelliCode", b.wide(b.noLess(u"dcbMelliCode", 16)),
-                                             b.narrow(u"textMelliCode", 12), b.narrow(u"cmdSearchMoadi", 4),
+                                             b.narrow(u"textMelliCode", 11), b.narrow(u"cmdSearchMoadi", 3),
                                              b.narrow(u"cmdKeyOk1", 7), b.narrow(u"cmdKeyReturn1", 7)}))),
     });
 }
