@@ -123,8 +123,8 @@ int main(int argc, char **argv)
     const auto ratio = [&](std::vector<qint64> &reference) {
         return static_cast<double>(median(opened)) / static_cast<double>(median(reference));
     };
-    std::printf("%d rows, %d rounds, medians: opening %.1f ms, both orders %.1f ms, the rows' alone %.1f ms\n", bench.rows,
-                rounds, milliseconds(opened), milliseconds(both), milliseconds(rows));
+    std::printf("%d rows, %d rounds, medians: opening %.1f ms, both orders %.1f ms, the rows' alone %.1f ms\n",
+                bench.rows, rounds, milliseconds(opened), milliseconds(both), milliseconds(rows));
     std::printf("opening a month / the queries of both its orders: %.2f (goal %.1f); / that of its rows alone: %.2f\n",
                 ratio(both), Goal, ratio(rows));
     return 0;
