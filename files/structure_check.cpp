@@ -31,7 +31,7 @@ bool hasNameOf(FileKind kind, QStringView path)
            && path.last(NameLength).first(KindLength).compare(checkWords(kind).nameLetters, Qt::CaseInsensitive) == 0;
 }
 
-CheckBox failureBox(FileKind kind, const CheckOutcome &outcome)
+ClosingBox failureBox(FileKind kind, const CheckOutcome &outcome)
 {
     const QString failure = QString::number(outcome.failure) + u" < "_s + outcome.description + u" > "_s;
     switch (outcome.failure) {
@@ -158,7 +158,7 @@ std::optional<FileKind> fileKindOf(QStringView path)
     return {};
 }
 
-std::optional<CheckBox> closingBox(FileKind kind, const CheckOutcome &outcome)
+std::optional<ClosingBox> closingBox(FileKind kind, const CheckOutcome &outcome)
 {
     if (outcome.end == CheckEnd::Failed)
         return failureBox(kind, outcome);
@@ -166,10 +166,11 @@ std::optional<CheckBox> closingBox(FileKind kind, const CheckOutcome &outcome)
         return {};
     const QString finished = checkWords(kind).finishedBox + u'\r';
     if (outcome.errors == 0)
-        return CheckBox{ClosingStyle,
-                        {},
-                        finished + u"ساختار فايل متني صحيح ميباشد.با بستن اين فرم جزئيات بيشتر نمايش داده خواهد شد"_s};
-    return CheckBox{
+        return ClosingBox{ClosingStyle,
+                          {},
+                          finished
+                              + u"ساختار فايل متني صحيح ميباشد.با بستن اين فرم جزئيات بيشتر نمايش داده خواهد شد"_s};
+    return ClosingBox{
         ClosingStyle, u"خطا"_s,
         finished + u"در ساختار فايل متني ايجاد شده تعداد : "_s + QString::number(outcome.errors)
             + u"  خطا وجود دارد.اصلاح اين خطاها قبل از تسليم فايلهاي متني به اداره امور مالياتي الزامي ميباشد\r"_s

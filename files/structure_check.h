@@ -110,12 +110,12 @@ private:
 [[nodiscard]] std::optional<FileKind> fileKindOf(QStringView path);
 
 /// The box behind a run; none where the report alone speaks.
-struct CheckBox {
+struct ClosingBox {
     int style;
     QString title;
     QString text;
 };
-[[nodiscard]] std::optional<CheckBox> closingBox(FileKind kind, const CheckOutcome &outcome);
+[[nodiscard]] std::optional<ClosingBox> closingBox(FileKind kind, const CheckOutcome &outcome);
 
 /// What the wait panel says when so many lines are done.
 [[nodiscard]] QString progressText(qint64 records);
