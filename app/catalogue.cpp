@@ -8,6 +8,7 @@
 #include "core/frmEnterance_Door.h"
 #include "core/frmMain.h"
 #include "core/frmUser_Defination.h"
+#include "core/kept_copies.h"
 #include "files/frmCreatTextFiles.h"
 #include "lists/frmHogog1.h"
 #include "lists/frmKholList.h"
@@ -68,6 +69,7 @@ void runProgram(Platform &platform)
     } catch (const ProgramEnd &) {
         // The screens are gone by now; what is left of the run goes with this routine.
     }
+    keepCopyAtLeaving(program);
 }
 
 } // namespace zrv

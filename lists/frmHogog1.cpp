@@ -6,6 +6,7 @@
 #include "core/basic/number_format.h"
 #include "core/code_combos.h"
 #include "core/containers.h"
+#include "core/kept_copies.h"
 #include "core/mdlError.h"
 #include "core/mdlPublic.h"
 #include "core/store/connection.h"
@@ -198,8 +199,12 @@ bool frmHogog1::carryMonth()
         return true;
     PPICWaitingMessage.setVisible(true);
     m_platform.yield();
-    CopyMonth(m_program, {chosen.year, last->code}, chosen);
+    const bool goesOn = keepCopyBeforeStep(m_program);
+    if (goesOn)
+        CopyMonth(m_program, {chosen.year, last->code}, chosen);
     PPICWaitingMessage.setVisible(false);
+    if (!goesOn)
+        return true;
     // CopyMonth tells its failures itself, and none comes back; this comes in either case.
     messageBox(box::Notice, u" تــوجه  "_s, u" عمليات انتقال اطلاعات با موفقيت به پايان رسيد "_s);
     return true;

@@ -5,6 +5,7 @@
 #include "core/basic/val.h"
 #include "core/code_combos.h"
 #include "core/containers.h"
+#include "core/kept_copies.h"
 #include "core/mdlPublic.h"
 
 namespace zrv {
@@ -160,8 +161,12 @@ void frmTransferData::cmdTransferData_Click()
         return;
     PPICWaitingMessage.setVisible(true);
     m_platform.yield();
-    CopyMonth(m_program, source(), target());
+    const bool goesOn = keepCopyBeforeStep(m_program);
+    if (goesOn)
+        CopyMonth(m_program, source(), target());
     PPICWaitingMessage.setVisible(false);
+    if (!goesOn)
+        return;
     // Said even where the copy has just told that it failed.
     messageBox(box::Notice, Attention, u" عمليات انتقال اطلاعات با موفقيت به پايان رسيد "_s);
 }

@@ -17,27 +17,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-/// The file that a connection string names. Its parts are joined with backslashes, which other systems than
-/// Windows would take for letters of a file's name.
-QString filePath(const QString &connectionString)
-{
-    // A folder's name may hold a semicolon: the path ends only where the next setting begins.
-    static const QRegularExpression source(
-        u"(?:^|;)\\s*Data Source\\s*=\\s*(.*?)\\s*(?:;\\s*[A-Za-z][A-Za-z :]*=|;?\\s*$)"_s,
-        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
-    QString named = source.match(connectionString).captured(1);
-    if (named.isEmpty())
-        throw RunTimeError(store_error::General, u"نام فايل بانک اطلاعاتي مشخص نشده است"_s);
-    if (QDir::separator() == u'\\')
-        return named;
-    // A folder's own name may hold a backslash here, so only the last one is sure to be a separator.
-    QString path = named;
-    const qsizetype last = path.lastIndexOf(u'\\');
-    if (last > path.lastIndexOf(u'/'))
-        path[last] = u'/';
-    return QFileInfo::exists(path) ? path : QString(named).replace(u'\\', u'/');
-}
-
 int run([[maybe_unused]] StoreFile &file, [[maybe_unused]] const dialect::Select &select)
 {
     dialect::refuse(u"SELECT");
@@ -70,6 +49,25 @@ int run(StoreFile &file, const Change &statement)
 
 } // namespace
 
+QString storeFilePath(const QString &connectionString)
+{
+    // A folder's name may hold a semicolon: the path ends only where the next setting begins.
+    static const QRegularExpression source(
+        u"(?:^|;)\\s*Data Source\\s*=\\s*(.*?)\\s*(?:;\\s*[A-Za-z][A-Za-z :]*=|;?\\s*$)"_s,
+        QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
+    QString named = source.match(connectionString).captured(1);
+    if (named.isEmpty())
+        throw RunTimeError(store_error::General, u"نام فايل بانک اطلاعاتي مشخص نشده است"_s);
+    if (QDir::separator() == u'\\')
+        return named;
+    // A folder's own name may hold a backslash here, so only the last one is sure to be a separator.
+    QString path = named;
+    const qsizetype last = path.lastIndexOf(u'\\');
+    if (last > path.lastIndexOf(u'/'))
+        path[last] = u'/';
+    return QFileInfo::exists(path) ? path : QString(named).replace(u'\\', u'/');
+}
+
 QString quoted(QStringView value)
 {
     if (value.contains(u'\'') || value.contains(QChar()))
@@ -78,7 +76,7 @@ QString quoted(QStringView value)
 }
 
 Connection::Connection(const QString &connectionString)
-    : m_file(std::make_shared<StoreFile>(filePath(connectionString)))
+    : m_file(std::make_shared<StoreFile>(storeFilePath(connectionString)))
 {
 }
 

@@ -14,6 +14,10 @@ class StoreFile;
 /// can't stand in a statement and raises store_error::Syntax, so that no text a user types becomes SQL.
 [[nodiscard]] QString quoted(QStringView value);
 
+/// The file that a connection string names. Its parts are joined with backslashes, which other systems than Windows would
+/// take for letters of a file's name. Raises store_error::General when it names none.
+[[nodiscard]] QString storeFilePath(const QString &connectionString);
+
 /// One connection to the store, opened for one operation and dropped behind it.
 ///
 /// The text is the whole connection string, "…;Data Source = FILE;…"; the file is opened and never created.

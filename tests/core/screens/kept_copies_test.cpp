@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/kept_copies.h"
+#include "core/store/store_backups.h"
+#include "tests/core/screens/quiet_platform.h"
+#include "tests/core/store/store_fixture.h"
+
+#include <QFile>
+
+namespace zrv {
+namespace {
+
+class Boxes : public QuietPlatform {
+public:
+    Answer messageBox(int style, const QString &, const QString &text) override
+    {
+        texts.append(text);
+        return (style & box::YesNo) != 0 ? answer : Answer::Ok;
+    }
+
+    QStringList texts;
+    Answer answer = Answer::No;
+};
+
+class KeptCopies : public StoreTest {
+protected:
+    KeptCopies()
+    {
+        program.StoreConnectionString = connectionString();
+        program.UserFullName = u"مدير سيستم"_s;
+    }
+
+    /// From now on no copy can be made.
+    void takeTheFolder()
+    {
+        QFile file(backupFolder(path()));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+
+    Boxes platform;
+    Program program{platform};
+};
+
+TEST_F(KeptCopies, ACopyBeforeAStepBearsTheSolarDateAndTheTime)
+{
+    EXPECT_TRUE(keepCopyBeforeStep(program));
+    EXPECT_EQ(backupNames(path()), QStringList{u"DBZorvan-13890303-103000.mdb"_s});
+    EXPECT_EQ(platform.texts, QStringList());
+}
+
+TEST_F(KeptCopies, WithoutACopyTheUserSaysWhetherTheStepIsTaken)
+{
+    takeTheFolder();
+    EXPECT_FALSE(keepCopyBeforeStep(program));
+    ASSERT_EQ(platform.texts.size(), 1);
+    EXPECT_TRUE(platform.texts.first().contains(backupFolder(path())));
+    platform.answer = Answer::Yes;
+    EXPECT_TRUE(keepCopyBeforeStep(program));
+}
+
+TEST_F(KeptCopies, LeavingTellsOfACopyThatCannotBeMade)
+{
+    takeTheFolder();
+    keepCopyAtLeaving(program);
+    EXPECT_EQ(platform.texts.size(), 1);
+}
+
+TEST_F(KeptCopies, ARunWithoutALoginKeepsNone)
+{
+    program.UserFullName.clear();
+    keepCopyAtLeaving(program);
+    EXPECT_EQ(backupNames(path()), QStringList());
+}
+
+} // namespace
+} // namespace zrv
