@@ -8,6 +8,7 @@
 #include "qt/grid_binder.h"
 #include "qt/list_binder.h"
 #include "qt/menu_binder.h"
+#include "qt/report_binder.h"
 #include "qt/text_binders.h"
 #include "qt/timer_binder.h"
 
@@ -105,6 +106,8 @@ std::unique_ptr<Binder> makeBinder(Control &control, FormWindow &window)
         return std::make_unique<ListBinder>(static_cast<ListBox &>(control), window);
     case ControlKind::Grid:
         return std::make_unique<GridBinder>(static_cast<Grid &>(control), window);
+    case ControlKind::ReportBox:
+        return std::make_unique<ReportBinder>(static_cast<ReportBox &>(control), window);
     case ControlKind::Frame:
         return std::make_unique<FrameBinder>(static_cast<Frame &>(control), window);
     case ControlKind::Picture:

@@ -26,6 +26,8 @@ std::optional<Key> namedKey(const QKeyEvent &event)
     const int key = event.key();
     if (key == Qt::Key_Tab && event.modifiers() & Qt::ShiftModifier)
         return Key::Backtab;
+    if (event.matches(QKeySequence::Find))
+        return Key::Find;
     if (key >= Qt::Key_F1 && key <= Qt::Key_F12)
         return static_cast<Key>(static_cast<int>(Key::F1) + key - Qt::Key_F1);
     for (const Row &row : rows)

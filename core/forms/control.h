@@ -25,6 +25,7 @@ enum class ControlKind {
     DataCombo,
     ListBox,
     Grid,
+    ReportBox,
     Frame,
     Picture,
     Tabs,
@@ -82,6 +83,7 @@ enum class Key {
     F10,
     F11,
     F12,
+    Find, ///< Ctrl+F
 };
 
 /// What every control has. Controls are members of their screen, declared in tab order; a control registers

@@ -238,6 +238,14 @@ bool Form::userHead(Grid &grid, int column)
            });
 }
 
+bool Form::userLines(ReportBox &report, qint64 anchor, qint64 line)
+{
+    return accepts(report) && carryOut([&] {
+               giveFocus(&report);
+               report.select(anchor, line);
+           });
+}
+
 bool Form::userPage(Tabs &tabs, int page)
 {
     return accepts(tabs) && carryOut([&] {

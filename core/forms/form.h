@@ -3,6 +3,7 @@
 
 #include "core/forms/controls.h"
 #include "core/forms/grid.h"
+#include "core/forms/report_box.h"
 
 namespace zrv {
 
@@ -90,14 +91,17 @@ public:
     bool userCheck(Control &checkOrOption, bool checked);
     bool userRow(Grid &grid, int row, int column);
     bool userHead(Grid &grid, int column);
+    /// Lines of a report, from one to another, which becomes current.
+    bool userLines(ReportBox &report, qint64 anchor, qint64 line);
     bool userPage(Tabs &tabs, int page);
     bool userClose();
     void tick(Timer &timer);
 
     /// True while a user's action is being carried out.
     [[nodiscard]] bool isBusy() const { return m_depth > 0; }
-    /// A control that can be used while the form is busy, such as a Cancel button.
-    void setLiveWhileBusy(Control &control) { m_live = &control; }
+    /// The control that can be used while the form is busy, such as a Cancel button; null for none.
+    void setLiveWhileBusy(Control *control) { m_live = control; }
+    [[nodiscard]] Control *liveWhileBusy() const { return m_live; }
 
 protected:
     virtual void Form_Load() {}

@@ -146,6 +146,8 @@ bool Form::namedKey(Key key)
                 m_active->onClick();
             return true;
         }
+        if (m_active && m_active->kind() == ControlKind::ReportBox && listKey(*m_active, key))
+            return true;
         return press(EnterCode);
     case Key::Escape:
         return press(EscapeCode);
@@ -245,6 +247,8 @@ bool Form::listKey(Control &control, Key key)
             list.setListIndex(std::max(0, list.listIndex() + step));
         return upDown;
     }
+    case ControlKind::ReportBox:
+        return static_cast<ReportBox &>(control).press(key);
     case ControlKind::Tabs: {
         const bool sideways = key == Key::Left || key == Key::Right;
         // Pages follow each other from right to left.

@@ -95,7 +95,7 @@ void layOutContainer(const FormWindow &window, Container &container)
 {
     const std::vector<Control *> controls = placedIn(window, container);
     for (Control *control : controls)
-        if (auto *inner = dynamic_cast<Container *>(control))
+        if (auto *inner = dynamic_cast<Container *>(control); inner && !hasKind(*control, ControlKind::ReportBox))
             layOutContainer(window, *inner);
     if (container.containerControl() && hasKind(*container.containerControl(), ControlKind::Tabs))
         return;

@@ -77,6 +77,11 @@ bool HeadlessStage::row(Grid &grid, int row)
     return grid.form().userRow(grid, row, std::max(0, grid.currentColumn()));
 }
 
+bool HeadlessStage::line(ReportBox &report, qint64 line)
+{
+    return report.form().userLines(report, line, line);
+}
+
 bool HeadlessStage::head(Grid &grid, int column)
 {
     return grid.form().userHead(grid, column);

@@ -57,6 +57,13 @@ Answer countOf(const Control &control)
     return items ? Answer(QString::number(items->size())) : Answer();
 }
 
+Answer rowsOf(const Control &control)
+{
+    if (const auto *report = dynamic_cast<const ReportBox *>(&control))
+        return QString::number(report->lineCount());
+    return ofKind<Grid>(control, [](const Grid &grid) { return QString::number(grid.rowCount()); });
+}
+
 QString captionsOf(const Grid &grid)
 {
     QStringList captions;
@@ -81,7 +88,8 @@ const std::array Properties{
     Property{u"colour"_s,  [](const Control &c) -> Answer { return QString::number(c.backColor(), 16).rightJustified(6, u'0').toUpper(); }},
     Property{u"tag"_s,     [](const Control &c) -> Answer { return c.tag(); }},
     Property{u"tooltip"_s, [](const Control &c) -> Answer { return c.toolTip(); }},
-    Property{u"rows"_s,    [](const Control &c) { return ofKind<Grid>(c, [](const Grid &g) { return QString::number(g.rowCount()); }); }},
+    Property{u"rows"_s,    rowsOf},
+    Property{u"line"_s,    [](const Control &c) { return ofKind<ReportBox>(c, [](const ReportBox &r) { return QString::number(r.currentLine() + 1); }); }},
     Property{u"count"_s,   countOf},
     Property{u"columns"_s, [](const Control &c) { return ofKind<Grid>(c, captionsOf); }},
     Property{u"tab"_s,     [](const Control &c) { return ofKind<Tabs>(c, [](const Tabs &t) { return QString::number(t.page()); }); }},
@@ -129,6 +137,8 @@ QString kindText(ControlKind kind)
         return u"ListBox"_s;
     case ControlKind::Grid:
         return u"Grid"_s;
+    case ControlKind::ReportBox:
+        return u"ReportBox"_s;
     case ControlKind::Frame:
         return u"Frame"_s;
     case ControlKind::Picture:

@@ -38,6 +38,7 @@ public:
     virtual bool tickRow(ListBox &list, int row) = 0;
     virtual bool tick(Control &checkOrOption) = 0;
     virtual bool row(Grid &grid, int row) = 0;
+    virtual bool line(ReportBox &report, qint64 line) = 0;
     virtual bool head(Grid &grid, int column) = 0;
     virtual bool close(Form &form) = 0;
 
@@ -70,6 +71,7 @@ public:
     bool tickRow(ListBox &list, int row) override;
     bool tick(Control &checkOrOption) override;
     bool row(Grid &grid, int row) override;
+    bool line(ReportBox &report, qint64 line) override;
     bool head(Grid &grid, int column) override;
     bool close(Form &form) override;
     std::optional<QString> shown(const Control &, QStringView) override { return {}; }

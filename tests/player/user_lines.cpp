@@ -28,7 +28,12 @@ const std::array NamedKeys{
     NamedKey{u"Right"_s, Key::Right},
     NamedKey{u"Up"_s, Key::Up},
     NamedKey{u"Down"_s, Key::Down},
+    NamedKey{u"PageUp"_s, Key::PageUp},
+    NamedKey{u"PageDown"_s, Key::PageDown},
+    NamedKey{u"F3"_s, Key::F3},
+    NamedKey{u"F8"_s, Key::F8},
     NamedKey{u"F9"_s, Key::F9},
+    NamedKey{u"Ctrl+F"_s, Key::Find},
 };
 
 template <class Kind>
@@ -216,13 +221,22 @@ void dblclick(Player &player, const Line &line)
     Control &control = player.reachable(line.text(0));
     if (const auto *const grid = dynamic_cast<const Grid *>(&control); grid && grid->currentRow() < 0)
         failLine(control.name() + u" has no current row"_s);
+    if (const auto *const report = dynamic_cast<ReportBox *>(&control); report && report->currentLine() < 0)
+        failLine(control.name() + u" has no lines"_s);
     carriedOut(player, line, control, player.stage().dblClick(control));
 }
 
 void row(Player &player, const Line &line)
 {
-    auto &grid = ofKind<Grid>(player.reachable(line.text(0)), u"Grid"_s);
+    Control &control = player.reachable(line.text(0));
     const int row = numberFrom(line.text(1));
+    if (auto *const report = dynamic_cast<ReportBox *>(&control)) {
+        if (row < 1 || row > report->lineCount())
+            failLine(report->name() + u" has "_s + QString::number(report->lineCount()) + u" lines"_s);
+        carriedOut(player, line, control, player.stage().line(*report, row - 1));
+        return;
+    }
+    auto &grid = ofKind<Grid>(control, u"Grid"_s);
     if (row < 1 || row > grid.rowCount())
         failLine(grid.name() + u" has "_s + QString::number(grid.rowCount()) + u" rows"_s);
     carriedOut(player, line, grid, player.stage().row(grid, row - 1));

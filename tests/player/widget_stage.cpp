@@ -2,6 +2,7 @@
 #include "tests/player/widget_stage.h"
 
 #include "qt/form_window.h"
+#include "qt/report_view.h"
 #include "tests/player/player.h"
 
 #include <QAbstractButton>
@@ -32,6 +33,7 @@ struct SentKey {
     Key key;
     Qt::Key sent;
     QString text;
+    Qt::KeyboardModifiers held = {};
 };
 
 const std::array SentKeys{
@@ -44,7 +46,12 @@ const std::array SentKeys{
     SentKey{Key::Right, Qt::Key_Right, {}},
     SentKey{Key::Up, Qt::Key_Up, {}},
     SentKey{Key::Down, Qt::Key_Down, {}},
+    SentKey{Key::PageUp, Qt::Key_PageUp, {}},
+    SentKey{Key::PageDown, Qt::Key_PageDown, {}},
+    SentKey{Key::F3, Qt::Key_F3, {}},
+    SentKey{Key::F8, Qt::Key_F8, {}},
     SentKey{Key::F9, Qt::Key_F9, {}},
+    SentKey{Key::Find, Qt::Key_F, u"\u0006"_s, Qt::ControlModifier},
 };
 
 /// Where a click on the widget takes effect: boxes that are ticked have their mark at one end.
@@ -134,7 +141,7 @@ bool WidgetStage::key(Form &form, Key key)
 {
     for (const SentKey &row : SentKeys)
         if (row.key == key) {
-            press(form, row.sent, Qt::NoModifier, row.text);
+            press(form, row.sent, row.held, row.text);
             return true;
         }
     return false;
@@ -180,6 +187,17 @@ void WidgetStage::cell(QAbstractItemView &view, int row, int column, bool twice)
         mouse(*view.viewport(), place, true);
 }
 
+void WidgetStage::clickLine(ReportBox &report, qint64 line, bool twice)
+{
+    (void)usable(report);
+    auto &view = static_cast<ReportView &>(*windowOf(report.form()).inputFor(report));
+    view.bringIntoView(line);
+    const QPoint place = view.lineRect(line).center();
+    mouse(*view.viewport(), place);
+    if (twice)
+        mouse(*view.viewport(), place, true);
+}
+
 bool WidgetStage::focus(Control &control)
 {
     if (!control.takesFocus())
@@ -216,6 +234,10 @@ bool WidgetStage::dblClick(Control &control)
     }
     if (const auto *const list = dynamic_cast<const ListBox *>(&control)) {
         cell(static_cast<QAbstractItemView &>(widget), list->listIndex(), 0, true);
+        return true;
+    }
+    if (auto *const report = dynamic_cast<ReportBox *>(&control)) {
+        clickLine(*report, report->currentLine(), true);
         return true;
     }
     mouse(widget, placeOfClick(widget, control.kind()));
@@ -277,6 +299,12 @@ bool WidgetStage::row(Grid &grid, int row)
     while (table.isColumnHidden(column) && column + 1 < table.model()->columnCount())
         ++column;
     cell(table, row, column);
+    return true;
+}
+
+bool WidgetStage::line(ReportBox &report, qint64 line)
+{
+    clickLine(report, line, false);
     return true;
 }
 

@@ -54,6 +54,7 @@ public:
     bool tickRow(ListBox &list, int row) override;
     bool tick(Control &checkOrOption) override;
     bool row(Grid &grid, int row) override;
+    bool line(ReportBox &report, qint64 line) override;
     bool head(Grid &grid, int column) override;
     bool close(Form &form) override;
     std::optional<QString> shown(const Control &control, QStringView property) override;
@@ -68,6 +69,7 @@ private:
     void press(Form &form, int key, Qt::KeyboardModifiers modifiers, const QString &text);
     void mouse(QWidget &widget, const QPoint &place, bool twice = false);
     void cell(QAbstractItemView &view, int row, int column, bool twice = false);
+    void clickLine(ReportBox &report, qint64 line, bool twice);
     bool chooseInCombo(Combo &combo, int row);
     /// What an event has thrown is held back while Qt is on the way; here it goes on.
     void afterEvent() const;

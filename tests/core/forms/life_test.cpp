@@ -37,7 +37,7 @@ TEST(Life, UserActionsAreDroppedWhileOneIsRunning)
 TEST(Life, ControlMarkedLiveWorksWhileTheFormIsBusy)
 {
     OpenForm form;
-    form.setLiveWhileBusy(form.back);
+    form.setLiveWhileBusy(&form.back);
     form.ok.onGotFocus = form.back.onGotFocus = nullptr;
     form.ok.onClick = [&] { EXPECT_TRUE(form.userClick(form.back)); };
     form.userClick(form.ok);
