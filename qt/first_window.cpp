@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "qt/first_window.h"
+
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QWidget>
+
+#include <utility>
+
+namespace zrv {
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+constexpr int LongestWaitMs = 2'000;
+
+/// The same from whichever folder and by whichever link the program is started.
+QString serverName(const QString &store)
+{
+    const QString folder = QFileInfo(QFileInfo(store).path()).canonicalFilePath();
+    const QByteArray hash = QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha256).toHex();
+    return u"ZRVClient-"_s + QString::fromLatin1(hash.first(32));
+}
+
+} // namespace
+
+FirstWindow::FirstWindow(const QString &store, std::function<void()> raise)
+    : m_raise(std::move(raise))
+{
+    const QString name = serverName(store);
+    // Who holds the store's lock is the only one: what bears the name is left of a program that is gone.
+    QLocalServer::removeServer(name);
+    m_server.setSocketOptions(QLocalServer::UserAccessOption);
+    QObject::connect(&m_server, &QLocalServer::newConnection, &m_server, [this] { answer(); });
+    m_server.listen(name);
+}
+
+void FirstWindow::answer()
+{
+    while (QLocalSocket *asking = m_server.nextPendingConnection()) {
+        m_raise();
+        QObject::connect(asking, &QLocalSocket::disconnected, asking, &QObject::deleteLater);
+        asking->write("raised\n");
+        asking->flush();
+    }
+}
+
+bool FirstWindow::comesToTheFront(const QString &store)
+{
+    QLocalSocket socket;
+    socket.connectToServer(serverName(store));
+    return socket.waitForConnected(LongestWaitMs) && socket.waitForReadyRead(LongestWaitMs);
+}
+
+void raiseWindows()
+{
+    const auto raise = [](QWidget *window) {
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->raise();
+        window->activateWindow();
+    };
+    for (QWidget *window : QApplication::topLevelWidgets()) {
+        if (window->isVisible())
+            raise(window);
+    }
+    if (QWidget *const uppermost = QApplication::activeModalWidget())
+        raise(uppermost);
+}
+
+} // namespace zrv

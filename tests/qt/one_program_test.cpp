@@ -1,0 +1,150 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// One program works on a store at a time; who comes later, or after a crash.
+#include "core/store/new_store.h"
+#include "core/store/store_lock.h"
+#include "qt/first_window.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
+#include <QSysInfo>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+#include <thread>
+
+namespace zrv {
+namespace {
+
+using namespace Qt::Literals::StringLiterals;
+
+class OneProgram : public testing::Test {
+protected:
+    [[nodiscard]] QString store() const { return m_folder.filePath(u"DBZorvan.mdb"_s); }
+    [[nodiscard]] QString lockFile() const { return store() + u".lock"_s; }
+
+    void leaveLockOf(const QString &machine, qint64 process) const
+    {
+        QFile file(lockFile());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::number(process) + "\nZRVClient\n" + machine.toUtf8() + "\n");
+    }
+
+    /// The program, with its folder the one of the store.
+    void putProgramThere() const
+    {
+        createStore(store());
+        ASSERT_TRUE(QFile::copy(QStringLiteral(ZRVCLIENT), m_folder.filePath(u"ZRVClient"_s)));
+    }
+
+    void start(QProcess &program) const
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+        environment.insert(u"XDG_CONFIG_HOME"_s, m_folder.path());
+        program.setProcessEnvironment(environment);
+        program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        program.start(m_folder.filePath(u"ZRVClient"_s), {});
+        ASSERT_TRUE(program.waitForStarted());
+    }
+
+    [[nodiscard]] bool comesToHoldTheLock(const QProcess &program) const
+    {
+        return QTest::qWaitFor(
+            [&] {
+                QFile file(lockFile());
+                return file.open(QIODevice::ReadOnly) && file.readLine().trimmed().toLongLong() == program.processId()
+                       && FirstWindow::comesToTheFront(store());
+            },
+            30'000);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(OneProgram, TheLockIsHeldAsLongAsItLives)
+{
+    {
+        const StoreLock first(store());
+        EXPECT_EQ(first.state(), StoreLock::State::Held);
+        const StoreLock second(store());
+        EXPECT_EQ(second.state(), StoreLock::State::HeldHere);
+        EXPECT_EQ(second.process(), QCoreApplication::applicationPid());
+    }
+    EXPECT_EQ(StoreLock(store()).state(), StoreLock::State::Held);
+    EXPECT_FALSE(QFile::exists(lockFile()));
+}
+
+TEST_F(OneProgram, TheLockOfAProgramThatIsGoneKeepsNobodyOut)
+{
+    QProcess gone;
+    gone.start(u"true"_s, {});
+    ASSERT_TRUE(gone.waitForStarted());
+    const qint64 process = gone.processId();
+    ASSERT_TRUE(gone.waitForFinished());
+    leaveLockOf(QSysInfo::machineHostName(), process);
+    EXPECT_EQ(StoreLock(store()).state(), StoreLock::State::Held);
+}
+
+TEST_F(OneProgram, TheLockOfAnotherMachineIsTakenOnlyWhenToldTo)
+{
+    leaveLockOf(u"accounts-2"_s, 4711);
+    StoreLock lock(store());
+    ASSERT_EQ(lock.state(), StoreLock::State::HeldAfar);
+    EXPECT_EQ(lock.machine(), u"accounts-2"_s);
+    EXPECT_EQ(lock.process(), 4711);
+    lock.takeOver();
+    EXPECT_EQ(lock.state(), StoreLock::State::Held);
+}
+
+TEST_F(OneProgram, AFolderThatTakesNoLockFileKeepsNobodyOut)
+{
+    EXPECT_EQ(StoreLock(m_folder.filePath(u"missing/DBZorvan.mdb"_s)).state(), StoreLock::State::Impossible);
+}
+
+TEST_F(OneProgram, TheFirstIsAskedToComeToTheFront)
+{
+    EXPECT_FALSE(FirstWindow::comesToTheFront(store()));
+    int raised = 0;
+    const FirstWindow first(store(), [&] { ++raised; });
+    bool answered = false;
+    std::thread second([&] { answered = FirstWindow::comesToTheFront(store()); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }));
+    second.join();
+    EXPECT_TRUE(answered);
+}
+
+TEST_F(OneProgram, ASecondStartEndsAndTheFirstGoesOn)
+{
+    putProgramThere();
+    QProcess first;
+    start(first);
+    ASSERT_TRUE(comesToHoldTheLock(first));
+    QProcess second;
+    start(second);
+    ASSERT_TRUE(second.waitForFinished(30'000));
+    EXPECT_EQ(second.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(first.state(), QProcess::Running);
+    first.kill();
+    ASSERT_TRUE(first.waitForFinished());
+}
+
+TEST_F(OneProgram, AKillWhileTheLockIsHeldKeepsNobodyOut)
+{
+    putProgramThere();
+    QProcess first;
+    start(first);
+    ASSERT_TRUE(comesToHoldTheLock(first));
+    first.kill();
+    ASSERT_TRUE(first.waitForFinished());
+    QProcess second;
+    start(second);
+    EXPECT_TRUE(comesToHoldTheLock(second));
+    second.kill();
+    ASSERT_TRUE(second.waitForFinished());
+}
+
+} // namespace
+} // namespace zrv
