@@ -4,6 +4,8 @@
 #include "core/basic/val.h"
 #include "core/mdlPublic.h"
 
+#include <QScopedValueRollback>
+
 namespace zrv {
 
 using namespace Qt::Literals::StringLiterals;
@@ -67,6 +69,8 @@ void DateBoxes::refuse(const QString &text, TextBox &box, const QString &left)
 {
     m_platform.messageBox(box::Refusal, u" اخطار  "_s, text);
     box.setText(left);
+    // The part that hands the focus back isn't judged for it: of two zeros each would send the focus to the other.
+    const QScopedValueRollback handingBack(m_handsBack, true);
     box.setFocus();
 }
 
@@ -108,10 +112,12 @@ void DateBoxes::yearLeft()
 void DateBoxes::partLeft(TextBox &part, const QString &zeroIsRefused)
 {
     const QString text = part.text().trimmed();
-    if (text == u"0")
-        refuse(zeroIsRefused, part, text);
-    else if (text.size() == 1)
+    if (text == u"0") {
+        if (!m_handsBack)
+            refuse(zeroIsRefused, part, text);
+    } else if (text.size() == 1) {
         part.setText(u"0"_s + text);
+    }
 }
 
 bool DateBoxes::stepBack(TextBox &from, TextBox &to, bool shorten)

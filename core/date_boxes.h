@@ -58,6 +58,7 @@ private:
 
     bool m_dayShortensMonth;
     bool m_judgesShownDay;
+    bool m_handsBack = false; ///< while a refused part gets the focus back
 };
 
 } // namespace zrv

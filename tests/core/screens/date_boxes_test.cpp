@@ -133,6 +133,22 @@ TEST(DateBoxes, MonthZeroReturnsTheFocusWithItsTextSelected)
     EXPECT_EQ(form.date.month.selLength(), 1);
 }
 
+TEST(DateBoxes, OfTwoZerosInAStoredDateTheOneThatIsLeftIsTold)
+{
+    DateForm form;
+    form.date.show(u"138900"_s);
+    form.date.month.setText(u"0"_s);
+    form.date.day.setText(u"0"_s);
+    form.userFocus(form.date.day);
+    form.userFocus(form.date.month);
+    EXPECT_EQ(form.platform.boxes, QStringList{DayZero}) << "the month is not judged for handing the focus back";
+    EXPECT_TRUE(form.date.day.hasFocus());
+    form.type(u"5"_s);
+    form.userFocus(form.date.month);
+    EXPECT_TRUE(form.date.month.hasFocus());
+    EXPECT_EQ(form.date.day.text(), u"05"_s);
+}
+
 TEST(DateBoxes, MonthOfTwoZerosIsNotRefused)
 {
     DateForm form;
