@@ -82,6 +82,8 @@ constexpr CommandName Commands[] = {
     {u"takeover",  Command::TakeOver, 2, u"takeover OLD.mdb DIR [--as-stored]"},
     {u"verify",    Command::Verify,  1, u"verify DIR [--all]"},
     {u"backup",    Command::Backup,  2, u"backup DIR FILE [--force]"},
+    {u"list",      Command::List,    1, u"list DIR"},
+    {u"restore",   Command::Restore, 2, u"restore DIR COPY"},
 };
 // clang-format on
 
@@ -142,7 +144,7 @@ Request readCommandLine(const QStringList &words)
 QString helpText()
 {
     QString text =
-        u"zrvstore makes, fills, takes over, verifies and copies the store DBZorvan.mdb in the folder DIR.\n\n"_s;
+        u"zrvstore makes, fills, takes over, verifies, copies and restores the store DBZorvan.mdb in the folder DIR.\n\n"_s;
     for (const CommandName &command : Commands)
         text += u"    zrvstore "_s + command.usage + u'\n';
     return text
@@ -163,9 +165,13 @@ QString helpText()
              "         nothing wrong. Whoever wants to write to the store waits meanwhile.\n"
              "backup   makes a verified copy, also while the program is open. It replaces a FILE only with --force,\n"
              "         and only when the new copy is whole and on the disk.\n"
+             "list     tells the dated copies that the program keeps in DIR/Backups, newest first: name, length, and\n"
+             "         what each holds.\n"
+             "restore  puts COPY, one of those by its name or any file by its path, in the place of DIR's store, in\n"
+             "         one step. The copy is only read; the store as it was is kept in DIR/Backups first.\n"
              "\n"
              "exit     0  done; verify: the store is sound; takeover: and nothing is doubtful\n"
-             "         1  verify: there are findings; takeover: done, and something is doubtful\n"
+             "         1  verify: there are findings; list: a copy is damaged; takeover: done, and something is doubtful\n"
              "         2  it can't be done: wrong words, no store, damaged or busy, disk full; one line says which\n"_s;
 }
 

@@ -9,7 +9,7 @@
 
 namespace zrv::storetool {
 
-enum class Command { Help, Version, Create, Sample, TakeOver, Verify, Backup };
+enum class Command { Help, Version, Create, Sample, TakeOver, Verify, Backup, List, Restore };
 
 /// What the person at the terminal asks for.
 struct Request {

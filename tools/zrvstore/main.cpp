@@ -3,6 +3,7 @@
 #include "tools/zrvstore/command_line.h"
 #include "tools/zrvstore/create.h"
 #include "tools/zrvstore/failure.h"
+#include "tools/zrvstore/restore.h"
 #include "tools/zrvstore/store_folder.h"
 #include "tools/zrvstore/takeover.h"
 #include "tools/zrvstore/verify.h"
@@ -21,12 +22,16 @@ void print(std::FILE *stream, const QString &text)
     std::fwrite(utf8.constData(), 1, std::size_t(utf8.size()), stream);
 }
 
+void printLine(const QString &line)
+{
+    print(stdout, QString(line + u'\n'));
+}
+
 /// 0 for a sound store, 1 if there is anything to say about it.
 int verify(const Request &request)
 {
     const QString path = storeIn(request.folder);
-    const auto sink = [](const QString &line) { print(stdout, QString(line + u'\n')); };
-    const qint64 findings = verifyStore(path, sink, request.all ? 0 : MostOfAKind);
+    const qint64 findings = verifyStore(path, printLine, request.all ? 0 : MostOfAKind);
     print(stdout, findings == 0 ? QString(path + u" is sound\n")
                                 : QString(path + u" has findings: " + QString::number(findings) + u'\n'));
     return findings == 0 ? 0 : 1;
@@ -35,8 +40,7 @@ int verify(const Request &request)
 /// 0 for a store without doubts, 1 if there is anything to say about it.
 int takeOver(const Request &request)
 {
-    const auto sink = [](const QString &line) { print(stdout, QString(line + u'\n')); };
-    return zrv::storetool::takeOver(request.file, request.folder, request.asStored, sink) == 0 ? 0 : 1;
+    return zrv::storetool::takeOver(request.file, request.folder, request.asStored, printLine) == 0 ? 0 : 1;
 }
 
 int run(const Request &request)
@@ -60,6 +64,11 @@ int run(const Request &request)
         return verify(request);
     case Command::Backup:
         backup(storeIn(request.folder), request.file, request.force);
+        return 0;
+    case Command::List:
+        return listCopies(request.folder, printLine) == 0 ? 0 : 1;
+    case Command::Restore:
+        restore(request.folder, request.file, printLine);
         return 0;
     }
     return 2;
