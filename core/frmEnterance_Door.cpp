@@ -3,6 +3,7 @@
 
 #include "core/basic/run_time_error.h"
 #include "core/containers.h"
+#include "core/kept_copies.h"
 #include "core/keyboard_layout.h"
 #include "core/mdlPublic.h"
 #include "core/old_store.h"
@@ -129,6 +130,7 @@ void frmEnterance_Door::cmdKeyOk_Click()
     }
     // What kept it from being taken over at the start may be mended by now.
     takeOverOldStore(m_platform);
+    refuseDamagedStore(m_program);
     bool known = false;
     {
         const Connection connection(m_program.StoreConnectionString);

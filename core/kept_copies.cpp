@@ -4,7 +4,9 @@
 #include "core/basic/run_time_error.h"
 #include "core/mdlPublic.h"
 #include "core/store/connection.h"
+#include "core/store/soundness.h"
 #include "core/store/store_backups.h"
+#include "core/store/store_error.h"
 
 namespace zrv {
 
@@ -33,6 +35,18 @@ bool keepCopyBeforeStep(const Program &program)
                                                + u"آيا مايل به ادامه عمليات بدون نسخه پشتيبان ميباشيد ؟"_s)
                == Answer::Yes;
     }
+}
+
+void refuseDamagedStore(const Program &program)
+{
+    const QString store = storeFilePath(program.StoreConnectionString);
+    if (soundnessOf(store) != Soundness::Damaged)
+        return;
+    const QString copy = newestSoundBackup(store);
+    throw RunTimeError(store_error::General,
+                       u"فايل بانک اطلاعاتي آسيب ديده است . فايل پشتيبان را جايگزين نماييد : "_s + store + u"\r\n"_s
+                           + (copy.isEmpty() ? u"هيچ نسخه پشتيبان سالمي در پوشه Backups وجود ندارد"_s
+                                             : u"آخرين نسخه پشتيبان سالم : "_s + copy));
 }
 
 void keepCopyAtLeaving(const Program &program)

@@ -12,4 +12,8 @@ namespace zrv {
 /// Keeps a dated copy when the program is left, and tells if it can't. Nothing happens in a run without a login.
 void keepCopyAtLeaving(const Program &program);
 
+/// Raises store_error::General for a damaged store, with the name of the newest copy that is whole; for a large store it
+/// takes a while. One that is missing or busy is left to who opens it.
+void refuseDamagedStore(const Program &program);
+
 } // namespace zrv

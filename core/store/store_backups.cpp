@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store/store_backups.h"
 
+#include "core/store/soundness.h"
 #include "core/store/store_copy.h"
 #include "core/store/store_error.h"
 
@@ -69,8 +70,8 @@ QString newestSoundBackup(const QString &store)
 {
     const QDir folder(backupFolder(store));
     const QStringList names = backupNames(store);
-    const auto sound =
-        std::ranges::find_if(names, [&](const QString &name) { return isSoundStore(folder.filePath(name)); });
+    const auto sound = std::ranges::find_if(
+        names, [&](const QString &name) { return soundnessOf(folder.filePath(name)) == Soundness::Sound; });
     return sound == names.end() ? QString() : *sound;
 }
 

@@ -87,14 +87,4 @@ void copyStore(const QString &store, const QString &copy)
         refuse(u"فايل پشتيبان ايجاد نشد . فضاي ديسک و دسترسي پوشه را بررسي نماييد", copy);
 }
 
-bool isSoundStore(const QString &path)
-{
-    try {
-        StoreFile file(path);
-        return isSound(file);
-    } catch (const RunTimeError &) {
-        return false;
-    }
-}
-
 } // namespace zrv

@@ -11,7 +11,4 @@ namespace zrv {
 /// Raises store_error::General, with a description for the user, when there is no such copy; then `copy` is as it was.
 void copyStore(const QString &store, const QString &copy);
 
-/// Whether a file can be opened as a store and none of its pages is damaged. Reads it through.
-[[nodiscard]] bool isSoundStore(const QString &path);
-
 } // namespace zrv

@@ -16,6 +16,16 @@ account() {
     printf '%s\n' "${text//"$work/$1/folder"/'${folder}'}"
 }
 
+# make_damaged_store FOLDER: a sample store with two pages overwritten, and two copies of it, the newer damaged as well.
+make_damaged_store() {
+    local copies=$1/Backups
+    "$bin/zrvstore" sample "$1"
+    mkdir "$copies"
+    "$bin/zrvstore" backup "$1" "$copies/DBZorvan-13890301-101500.mdb"
+    head -c 8192 /dev/zero | dd of="$1/DBZorvan.mdb" bs=4096 seek=2 conv=notrunc status=none
+    cp "$1/DBZorvan.mdb" "$copies/DBZorvan-13890302-101500.mdb"
+}
+
 # make_store FOLDER: what the "#store" line of the scenario's head asks for.
 make_store() {
     local words
@@ -23,6 +33,7 @@ make_store() {
     case ${words[0]-none} in
         none) ;;
         old) "$bin/zrvjet" "$1" "${words[@]:1}" ;;
+        damaged) make_damaged_store "$1" ;;
         *) "$bin/zrvstore" "${words[0]}" "$1" "${words[@]:1}" >/dev/null ;;
     esac
 }

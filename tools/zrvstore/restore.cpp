@@ -4,8 +4,8 @@
 #include "core/basic/run_time_error.h"
 #include "core/mdlPublic.h"
 #include "core/store/new_file.h"
+#include "core/store/soundness.h"
 #include "core/store/store_backups.h"
-#include "core/store/store_copy.h"
 #include "core/store/store_lock.h"
 #include "tools/zrvstore/database.h"
 #include "tools/zrvstore/failure.h"
@@ -112,7 +112,7 @@ void keepPresent(const QString &store, const Findings::Sink &sink)
         return;
     }
     const QString moment = presentMoment();
-    if (!isSoundStore(store)) {
+    if (soundnessOf(store) == Soundness::Damaged) {
         keepDamaged(store, moment, sink);
         return;
     }
@@ -134,7 +134,7 @@ qint64 listCopies(const QString &folder, const Findings::Sink &sink)
     for (const QString &name : backupNames(store)) {
         const QString path = copies.filePath(name);
         QString contents = u"damaged"_s;
-        if (isSoundStore(path)) {
+        if (soundnessOf(path) == Soundness::Sound) {
             contents = contentsOf(Database(path));
         } else {
             ++damaged;

@@ -64,6 +64,34 @@ TEST_F(KeptCopies, LeavingTellsOfACopyThatCannotBeMade)
     EXPECT_EQ(platform.texts.size(), 1);
 }
 
+TEST_F(KeptCopies, ADamagedStoreIsRefusedWithTheNameOfTheNewestSoundCopy)
+{
+    EXPECT_NO_THROW(refuseDamagedStore(program));
+    backUpStore(path(), u"13890303-103000"_s);
+    QFile file(path());
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    file.seek(8192);
+    file.write(QByteArray(4096, '\xA5'));
+    file.close();
+    const auto refusal = [&] {
+        try {
+            refuseDamagedStore(program);
+            return QString();
+        } catch (const RunTimeError &failure) {
+            return failure.description();
+        }
+    };
+    EXPECT_TRUE(refusal().endsWith(u" : DBZorvan-13890303-103000.mdb"_s)) << refusal().toStdString();
+    ASSERT_TRUE(QFile::remove(backupFolder(path()) + u"/DBZorvan-13890303-103000.mdb"_s));
+    EXPECT_TRUE(refusal().endsWith(u"Backups وجود ندارد"_s)) << refusal().toStdString();
+}
+
+TEST_F(KeptCopies, AMissingStoreIsNoDamage)
+{
+    ASSERT_TRUE(QFile::remove(path()));
+    EXPECT_NO_THROW(refuseDamagedStore(program));
+}
+
 TEST_F(KeptCopies, ARunWithoutALoginKeepsNone)
 {
     program.UserFullName.clear();
