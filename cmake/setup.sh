@@ -86,7 +86,7 @@ build() {
     fi
     mkdir -p "$folder"
     say "building the $preset preset in build/$preset"
-    (cd "$root" && cmake --preset "$preset" "${fresh[@]}") >"$folder/configure.log" 2>&1 \
+    (cd "$root" && cmake --preset "$preset" -DZRV_PRECOMPILE=ON "${fresh[@]}") >"$folder/configure.log" 2>&1 \
         || fail "cmake could not configure the $preset preset (its words: $folder/configure.log)"
     cmake --build "$folder" || fail "the $preset preset does not build; the compiler's words stand above"
 }

@@ -43,10 +43,19 @@ def included_files(ninja, build, root):
     return included
 
 
-def checked_sources(build, root, folders):
-    for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
+def commands_for_clang(build, stamps):
+    """The build's commands without precompiled headers, which clang can't read; kept among the stamps."""
+    commands = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
+    for entry in commands:
+        entry["command"] = re.sub(r" (-Winvalid-pch|-include \S+/cmake_pch\.hxx)(?= )", "", entry["command"])
+    (stamps / "compile_commands.json").write_text(json.dumps(commands), encoding="utf-8")
+    return commands
+
+
+def checked_sources(commands, root, folders):
+    for entry in commands:
         path = os.path.relpath(entry["file"], root)
-        inside = not path.startswith(("..", "build" + os.sep))
+        inside = not path.startswith(("..", "build" + os.sep)) and not path.endswith("cmake_pch.hxx.cxx")
         if inside and (not folders or any(path.startswith(folder.rstrip("/") + "/") for folder in folders)):
             yield path, entry
 
@@ -85,7 +94,7 @@ def main():
         wanted = stamp_of(entry, included, configuration)
         if wanted and stamp.exists() and stamp.read_text() == wanted:
             return path, None
-        done = subprocess.run([arguments.tidy, "-p", str(build), "--quiet", f"--header-filter=^{re.escape(str(root))}/",
+        done = subprocess.run([arguments.tidy, "-p", str(stamps), "--quiet", f"--header-filter=^{re.escape(str(root))}/",
                                entry["file"]], capture_output=True, text=True, check=False)
         if done.returncode == 0:
             if wanted:
@@ -93,7 +102,7 @@ def main():
             return path, None
         return path, done.stdout or done.stderr or f"clang-tidy ended with {done.returncode}"
 
-    sources = list(checked_sources(build, root, arguments.folders))
+    sources = list(checked_sources(commands_for_clang(build, stamps), root, arguments.folders))
     failed = 0
     with concurrent.futures.ThreadPoolExecutor(arguments.jobs) as pool:
         for path, words in pool.map(check, sources):
