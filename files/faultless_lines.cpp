@@ -16,6 +16,7 @@ constexpr std::size_t InsuranceKind = 13;
 constexpr std::size_t InsuranceNumber = 15;
 
 constexpr std::uint16_t Longest = 0xFFFF;
+constexpr std::uint16_t NoLength = 0xFFFF;
 constexpr std::uint16_t NationalCodeLength = 10;
 constexpr std::uint16_t PlainNumberLength = 18; // so many digits are a number beyond doubt
 
@@ -46,36 +47,17 @@ bool isFor(When when, bool national, bool otherInsurance)
     }
 }
 
-/// Added to the letters of a kind, a field's beginning runs through as many of them as there are and stops at the first
-/// other letter: the field's end has its bit in the sum if all of the field is of the kind, or nothing is in it.
-std::uint64_t runThrough(std::uint64_t letters, std::uint64_t begins, bool &carry)
-{
-    std::uint64_t sum = 0;
-    const bool isOver = __builtin_add_overflow(letters, begins, &sum);
-    carry = __builtin_add_overflow(sum, std::uint64_t(carry), &sum) || isOver;
-    return sum;
-}
-
 } // namespace
 
-/// The fields of a line as the masks tell of them.
-struct FaultlessLines::Line {
-    std::array<std::uint32_t, Fields> ends{}; ///< of each field, counted from the text's beginning
-    std::uint32_t begin = 0;
-    std::uint64_t digits = 0;   ///< bit i: field i is of digits alone or empty
-    std::uint64_t noDigits = 0; ///< likewise: it has no digit
-    std::size_t count = 0;
-
-    [[nodiscard]] std::uint32_t beginOf(std::size_t field) const { return field == 0 ? begin : ends[field - 1] + 1; }
-};
-
-FaultlessLines::FaultlessLines(const LineRules &payees, MaskMaker masks)
-    : m_masks(masks)
+FaultlessLines::FaultlessLines(const LineRules &payees, Instructions instructions, LineReader &reader)
+    : m_reader(reader)
+    , m_findEnds(endsFinder(instructions))
     , m_knowsRules(payees.kind == LineKind::Payee && payees.fields.size() == Fields)
 {
+    m_leftEmpty.fill(NoLength);
     for (const OptionalFields &optional : payees.optional) {
         for (int field = optional.first; field <= optional.last; ++field)
-            m_mayBeEmpty[static_cast<std::size_t>(field) - 1] = 1;
+            m_leftEmpty[static_cast<std::size_t>(field) - 1] = 0;
     }
     for (const bool national : {false, true}) {
         for (const bool otherInsurance : {false, true}) {
@@ -133,75 +115,153 @@ void FaultlessLines::takeRule(const CheckRule &rule, bool national, bool otherIn
     }
 }
 
-std::size_t FaultlessLines::skip(QStringView text, CheckState &state) const
+bool FaultlessLines::next(QStringView &line, CheckState &state)
 {
-    if (!m_knowsRules)
-        return 0;
-    const auto *const units = reinterpret_cast<const char16_t *>(text.utf16());
-    const auto size = static_cast<std::size_t>(std::min<qsizetype>(text.size(), 1 << 24));
-    Line line;
-    std::uint64_t fieldBegins = 1; // in the next 64 units the first one begins a field
-    bool digitCarry = false;
-    bool otherCarry = false;
-    for (std::size_t block = 0; block + UnitsPerMask <= size; block += UnitsPerMask) {
-        const UnitMasks masks = m_masks(units + block);
-        std::uint64_t ends = masks.comma | masks.carriageReturn | masks.lineFeed;
-        const std::uint64_t begins = ends << 1U | fieldBegins;
-        fieldBegins = ends >> 63U;
-        const std::uint64_t digitSum = runThrough(masks.digit, begins, digitCarry);
-        const std::uint64_t otherSum = runThrough(~(masks.digit | ends), begins, otherCarry);
-        for (; ends != 0; ends &= ends - 1) {
-            const auto bit = static_cast<unsigned>(std::countr_zero(ends));
-            const auto place = static_cast<std::uint32_t>(block + bit);
-            if ((masks.lineFeed >> bit & 1U) != 0) {
-                // Behind a line's CR it has been seen; anywhere else it is a letter of a field.
-                if (line.count != 0 || place + 1 != line.begin)
-                    return line.begin;
+    do {
+        while (findLine()) {
+            if (isFaultless(state)) {
+                passLine();
                 continue;
             }
-            if (line.count == Fields)
-                return line.begin;
-            line.ends[line.count] = place;
-            line.digits |= (digitSum >> bit & 1U) << line.count;
-            line.noDigits |= (otherSum >> bit & 1U) << line.count;
-            ++line.count;
-            if ((masks.carriageReturn >> bit & 1U) == 0)
-                continue;
-            if (line.count != Fields || place + 1 >= size || units[place + 1] != u'\n'
-                || !isFaultless(line, units, state))
-                return line.begin;
-            line = {.begin = place + 2};
+            m_known = {.sound = soundFields(),
+                       .ends = std::span(&m_ends.places[m_line.firstEnd + 1], Fields),
+                       .begin = m_line.begin};
+            m_reader.pass(m_line.begin - m_passed);
+            line = m_reader.take(m_ends.places[m_line.firstEnd + m_line.ends + 1] - m_line.begin);
+            passLine();
+            m_passed = m_line.begin;
+            return true;
         }
-    }
-    return line.begin;
+        m_reader.pass(m_line.begin - m_passed);
+    } while (look());
+    m_known = {};
+    return m_reader.next(line);
 }
 
-bool FaultlessLines::isFaultless(const Line &line, const char16_t *text, CheckState &state) const
+/// Looks at the stretch that comes next; false where no whole line lies in it.
+bool FaultlessLines::look()
 {
-    if (line.ends[Fields - 1] - line.begin >= Longest)
+    const QStringView text = m_reader.ahead();
+    const auto size = std::min(static_cast<std::size_t>(text.size()), FieldEnds::MostUnits);
+    m_line = {};
+    m_passed = 0;
+    m_ends.count = 0;
+    if (!m_knowsRules || size < FieldEnds::UnitsPerStep)
         return false;
-    const bool national = text[line.beginOf(Nationality)] == u'1';
-    const bool otherInsurance = text[line.beginOf(InsuranceKind)] == u'0';
-    const Limits &limits = m_limits[kindOf(national, otherInsurance)];
-    if ((limits.digits & ~line.digits) != 0 || (limits.noDigits & ~line.noDigits) != 0)
+    m_units = reinterpret_cast<const char16_t *>(text.utf16());
+    m_findEnds(m_units, size / FieldEnds::UnitsPerStep, m_ends);
+    if (findLine())
+        return true;
+    m_ends.count = 0;
+    return false;
+}
+
+/// Finds where the line ends whose beginning is known.
+bool FaultlessLines::findLine()
+{
+    std::size_t end = m_line.firstEnd;
+    bool isPlain = true;
+    while (end < m_ends.count) {
+        const std::uint64_t ofLine = FieldEnds::bitsFrom(m_ends.ofLine, end);
+        end += static_cast<std::size_t>(std::countr_zero(ofLine));
+        if (ofLine == 0)
+            continue;
+        if (end + 1 >= m_ends.count)
+            return false;
+        const char16_t *const letters = m_units + m_ends.places[end + 1];
+        if (letters[0] == u'\r' && letters[1] == u'\n') {
+            m_line.ends = end - m_line.firstEnd;
+            m_line.fields = isPlain ? m_line.ends + 1 : 0;
+            return true;
+        }
+        // A CR or LF alone is a letter of its field.
+        isPlain = false;
+        ++end;
+    }
+    return false;
+}
+
+void FaultlessLines::passLine()
+{
+    m_line.firstEnd += m_line.ends + 2; // CR and LF
+    m_line.begin = m_ends.places[m_line.firstEnd] + 1U;
+}
+
+char16_t FaultlessLines::firstLetter(std::size_t field) const
+{
+    return m_units[static_cast<std::uint16_t>(m_ends.places[m_line.firstEnd + field] + 1)];
+}
+
+bool FaultlessLines::isNational() const
+{
+    return firstLetter(Nationality) == u'1';
+}
+
+bool FaultlessLines::hasOtherInsurance() const
+{
+    return firstLetter(InsuranceKind) == u'0';
+}
+
+const FaultlessLines::Limits &FaultlessLines::limits() const
+{
+    return m_limits[kindOf(isNational(), hasOtherInsurance())];
+}
+
+/// The fields whose letters or whose lack of some is what the limits ask for.
+FieldSet FaultlessLines::fieldsOfRightLetters(const Limits &limits) const
+{
+    const FieldSet digits = FieldEnds::bitsFrom(m_ends.digits, m_line.firstEnd);
+    const FieldSet noDigits = FieldEnds::bitsFrom(m_ends.noDigits, m_line.firstEnd);
+    return ~((limits.digits & ~digits) | (limits.noDigits & ~noDigits));
+}
+
+bool FaultlessLines::hasValidCode() const
+{
+    return isValidNationalCode(QStringView(m_units + m_line.begin, NationalCodeLength));
+}
+
+bool FaultlessLines::isFaultless(CheckState &state) const
+{
+    if (m_line.fields != Fields)
         return false;
-    std::array<std::uint16_t, Padded> lengths{};
-    for (std::size_t field = 0; field < Fields; ++field)
-        lengths[field] = static_cast<std::uint16_t>(line.ends[field] - line.beginOf(field));
+    const Limits &limits = this->limits();
+    if (~fieldsOfRightLetters(limits) != 0 || firstLetter(InsuranceNumber) == u'0')
+        return false;
+    const std::uint16_t *const places = &m_ends.places[m_line.firstEnd];
     unsigned bad = 0;
     for (std::size_t field = 0; field < Padded; ++field) {
-        const bool isWithin = lengths[field] >= limits.least[field] && lengths[field] <= limits.most[field];
-        const bool isLeftEmpty = lengths[field] == 0 && m_mayBeEmpty[field] != 0;
-        bad |= isWithin || isLeftEmpty ? 0U : 1U;
+        const auto length = static_cast<std::uint16_t>(places[field + 1] - places[field] - 1);
+        const bool isWithin = length >= limits.least[field] && length <= limits.most[field];
+        bad |= isWithin || length == m_leftEmpty[field] ? 0U : 1U;
     }
-    if (bad != 0 || text[line.beginOf(InsuranceNumber)] == u'0')
-        return false;
-    if (limits.hasNationalCode && !isValidNationalCode(QStringView(text + line.begin, NationalCodeLength)))
+    if (bad != 0 || (limits.hasNationalCode && !hasValidCode()))
         return false;
     ++state.records;
-    state.national = national;
-    state.otherInsurance = otherInsurance;
+    state.national = isNational();
+    state.otherInsurance = hasOtherInsurance();
     return true;
+}
+
+FieldSet FaultlessLines::soundFields() const
+{
+    if (m_line.fields != Fields)
+        return 0;
+    const Limits &limits = this->limits();
+    FieldSet sound = fieldsOfRightLetters(limits);
+    const auto refuse = [&sound](std::size_t field) { sound &= ~(FieldSet(1) << field); };
+    const std::uint16_t *const places = &m_ends.places[m_line.firstEnd];
+    for (std::size_t field = 0; field < Fields; ++field) {
+        const auto length = static_cast<std::uint16_t>(places[field + 1] - places[field] - 1);
+        if ((length < limits.least[field] || length > limits.most[field]) && length != m_leftEmpty[field])
+            refuse(field);
+    }
+    if (firstLetter(InsuranceNumber) == u'0')
+        refuse(InsuranceNumber);
+    if (limits.hasNationalCode && !hasValidCode())
+        refuse(NationalCodeField);
+    // The limits are the right ones only where these two fields hold what their first letters promise.
+    constexpr FieldSet Deciding = FieldSet(1) << Nationality | FieldSet(1) << InsuranceKind;
+    return (sound & Deciding) == Deciding ? sound : 0;
 }
 
 } // namespace zrv

@@ -91,24 +91,42 @@ bool comparesAsNumber(QStringView text, double &number)
 
 LineCheck::LineCheck(const FileRules &rules, QStringView programVersion, CheckState &state, CheckEvents &events)
     : m_rules(rules)
+    , m_ofFirst(rulesByField(rules.first))
+    , m_ofRest(rulesByField(rules.rest))
     , m_programVersion(programVersion)
     , m_state(state)
     , m_events(events)
 {
 }
 
-int LineCheck::check(QStringView line, qint64 offset)
+/// The tables have the rules of a field one behind the other.
+LineCheck::RulesByField LineCheck::rulesByField(const LineRules &line)
+{
+    RulesByField found;
+    for (auto rule = line.rules.begin(); rule != line.rules.end();) {
+        const auto isAnothers = [&](const CheckRule &other) { return other.field != rule->field; };
+        const auto end = std::find_if(rule, line.rules.end(), isAnothers);
+        found[static_cast<std::size_t>(rule->field) - 1] = std::span(rule, end);
+        rule = end;
+    }
+    return found;
+}
+
+int LineCheck::check(QStringView line, qint64 offset, const KnownLine &known)
 {
     m_line = m_state.records == 0 ? &m_rules.first : &m_rules.rest;
     m_text = line;
     m_offset = offset;
     m_fieldPresent = true;
-    split(line);
+    if (known.sound != 0)
+        split(line, known);
+    else
+        split(line);
 
     m_events.lineBegins(m_state.records + 1);
     checkCount();
     if (m_line->kind != LineKind::Counted) {
-        if (const int mismatch = checkFields())
+        if (const int mismatch = checkFields(known.sound))
             return mismatch;
     }
     checkSurplus();
@@ -120,16 +138,29 @@ int LineCheck::check(QStringView line, qint64 offset)
 void LineCheck::split(QStringView line)
 {
     m_count = 0;
-    for (;;) {
-        const qsizetype end = line.indexOf(Separator);
-        m_fields[static_cast<std::size_t>(m_count++)] = line.first(end < 0 ? line.size() : end);
-        if (end < 0)
-            return;
-        line = line.sliced(end + 1);
+    const QChar *begin = line.begin();
+    for (const QChar *letter = begin; letter != line.end(); ++letter) {
+        if (*letter != Separator)
+            continue;
+        m_fields[static_cast<std::size_t>(m_count++)] = QStringView(begin, letter);
+        begin = letter + 1;
         if (m_count == MostKept) {
-            m_count += 1 + static_cast<int>(line.count(Separator));
+            m_count += 1 + static_cast<int>(QStringView(begin, line.end()).count(Separator));
             return;
         }
+    }
+    m_fields[static_cast<std::size_t>(m_count++)] = QStringView(begin, line.end());
+}
+
+void LineCheck::split(QStringView line, const KnownLine &known)
+{
+    m_count = 0;
+    std::size_t begin = 0;
+    for (const std::uint16_t end : known.ends) {
+        const std::size_t length = end - known.begin - begin;
+        m_fields[static_cast<std::size_t>(m_count++)] =
+            line.sliced(static_cast<qsizetype>(begin), static_cast<qsizetype>(length));
+        begin += length + 1;
     }
 }
 
@@ -156,25 +187,27 @@ QString LineCheck::controlVersion() const
 }
 
 /// 0, or the field whose comparison is a type mismatch.
-int LineCheck::checkFields()
+int LineCheck::checkFields(FieldSet sound)
 {
-    std::span<const CheckRule> rules = m_line->rules;
+    const RulesByField &rules = m_state.records == 0 ? m_ofFirst : m_ofRest;
     for (const Field &field : m_line->fields) {
-        const auto isAnothers = [&field](const CheckRule &rule) { return rule.field != field.number; };
-        const auto own = static_cast<std::size_t>(std::ranges::find_if(rules, isAnothers) - rules.begin());
+        const auto place = static_cast<std::size_t>(field.number) - 1;
+        if ((sound >> place & 1U) != 0) {
+            setFlags(field.number, m_fields[place]);
+            continue;
+        }
         m_events.fieldBegins(field);
         if (field.number > m_count)
             m_fieldPresent = false;
         if (std::exchange(m_fieldPresent, true)) {
-            const QStringView value = m_fields[static_cast<std::size_t>(field.number) - 1];
+            const QStringView value = m_fields[place];
             m_events.fieldRead(m_state.records + 1, field, value);
-            if (const int mismatch = checkField(field, value, rules.first(own)))
+            if (const int mismatch = checkField(field, value, rules[place]))
                 return mismatch;
         } else {
             m_events.fieldMissing();
             fail({.kind = FindingKind::MissingField, .field = field.number});
         }
-        rules = rules.subspan(own);
     }
     return 0;
 }

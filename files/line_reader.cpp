@@ -17,7 +17,7 @@ namespace zrv {
 namespace {
 
 constexpr std::size_t MostUnits = 16777216; // of a line, with its end
-constexpr qint64 UnitBytes = sizeof(char16_t);
+constexpr qint64 BehindStop = 4096;         // bytes read beyond the stop at once, for the rest of the last line
 
 static_assert(Q_BYTE_ORDER == Q_LITTLE_ENDIAN, "the files are little-endian, and so is what is read into memory");
 
@@ -63,6 +63,27 @@ LineReader::LineReader(const QString &path, std::size_t blockUnits)
     }
 }
 
+LineReader::LineReader(const LineReader &other, int file)
+    : m_path(other.m_path)
+    , m_file(file)
+    , m_size(other.m_size)
+    , m_changed(other.m_changed)
+    , m_oddities(other.m_oddities)
+    , m_first(other.m_first)
+    , m_end(other.m_end)
+    , m_blockUnits(other.m_blockUnits)
+{
+    seek(m_first);
+}
+
+std::unique_ptr<LineReader> LineReader::another() const
+{
+    const int file = ::fcntl(m_file, F_DUPFD_CLOEXEC, 0);
+    if (file < 0)
+        fail(error::PathFileAccess, u"فايل باز نشد");
+    return std::unique_ptr<LineReader>(new LineReader(*this, file));
+}
+
 LineReader::~LineReader()
 {
     ::close(m_file);
@@ -92,16 +113,17 @@ void LineReader::look()
     seek(m_first);
 }
 
-void LineReader::seek(qint64 offset)
+void LineReader::seek(qint64 offset, qint64 stop)
 {
     m_begin = m_scanned = m_used = 0;
     m_read = m_lineOffset = offset;
+    m_stop = stop;
     m_atEnd = false;
 }
 
 bool LineReader::next(QStringView &line)
 {
-    if (m_atEnd)
+    if (m_atEnd || position() >= m_stop)
         return false;
     for (;;) {
         const QStringView unscanned(m_block.data() + m_scanned, m_block.data() + m_used);
@@ -119,20 +141,30 @@ bool LineReader::next(QStringView &line)
             break;
         }
     }
-    m_lineOffset = m_read - static_cast<qint64>(m_used - m_begin) * UnitBytes;
+    m_lineOffset = position();
     m_begin = m_atEnd ? m_used : m_scanned;
     return true;
 }
 
 QStringView LineReader::ahead() const
 {
-    return {m_block.data() + m_begin, m_block.data() + m_used};
+    const qint64 units = std::min(static_cast<qint64>(m_used - m_begin), (m_stop - position()) / UnitBytes);
+    return {m_block.data() + m_begin, std::max<qint64>(units, 0)};
 }
 
 void LineReader::pass(std::size_t units)
 {
     m_begin += units;
     m_scanned = m_begin;
+}
+
+QStringView LineReader::take(std::size_t units)
+{
+    constexpr std::size_t LineEnd = 2;
+    const QStringView line(m_block.data() + m_begin, static_cast<qsizetype>(units));
+    m_lineOffset = position();
+    pass(units + LineEnd);
+    return line;
 }
 
 /// Reads on behind what is there, false at the file's end.
@@ -151,7 +183,8 @@ bool LineReader::fill()
             fail(error::OutOfMemory, u"يکي از خطوط فايل بيش از 16 ميليون حرف دارد و فايل حقوق يا خلاصه ليست نيست");
         m_block.resize(std::max(m_blockUnits, m_block.size() * 2));
     }
-    const qint64 wanted = std::min(static_cast<qint64>(m_block.size() - m_used) * UnitBytes, m_end - m_read);
+    qint64 wanted = std::min(static_cast<qint64>(m_block.size() - m_used) * UnitBytes, m_end - m_read);
+    wanted = std::min(wanted, std::max(m_stop - m_read, BehindStop));
     ssize_t read = 0;
     do {
         read = ::pread(m_file, m_block.data() + m_used, static_cast<std::size_t>(wanted), m_read);

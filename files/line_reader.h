@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringView>
 
+#include <limits>
+#include <memory>
 #include <vector>
 
 namespace zrv {
@@ -46,16 +48,30 @@ public:
     [[nodiscard]] QStringView ahead() const;
     /// The next line will be the one that begins so many units on, within what is ahead.
     void pass(std::size_t units);
+    /// Gives the next line as next() does, known to be whole in memory and so many units long without its CR LF.
+    QStringView take(std::size_t units);
 
     /// Where the line given last, or before any the first one, begins, in bytes from the file's beginning.
     [[nodiscard]] qint64 offset() const { return m_lineOffset; }
-    /// The next line will be the one that begins there.
-    void seek(qint64 offset);
+    /// Likewise of the next line.
+    [[nodiscard]] qint64 position() const { return m_read - static_cast<qint64>(m_used - m_begin) * UnitBytes; }
+    /// Behind the last line, which no CR LF ends.
+    [[nodiscard]] bool isAtEnd() const { return m_atEnd; }
+
+    static constexpr qint64 Everything = std::numeric_limits<qint64>::max();
+    /// The next line will be the one that begins there; of those that begin at `stop` or behind it none is given.
+    void seek(qint64 offset, qint64 stop = Everything);
 
     /// Whether somebody wrote to the file since it was opened.
     [[nodiscard]] bool hasChanged() const;
 
+    /// Another reader of the file as it was opened, for another thread.
+    [[nodiscard]] std::unique_ptr<LineReader> another() const;
+
 private:
+    static constexpr qint64 UnitBytes = sizeof(char16_t);
+
+    LineReader(const LineReader &other, int file);
     void look();
     bool fill();
     [[noreturn]] void fail(qint32 number, const char16_t *reason) const;
@@ -74,6 +90,7 @@ private:
     std::size_t m_scanned = 0; ///< no line ends before it
     std::size_t m_used = 0;
     qint64 m_read = 0; ///< byte up to which the file was read
+    qint64 m_stop = Everything;
     qint64 m_lineOffset = 0;
     bool m_atEnd = false;
 };

@@ -43,63 +43,63 @@ void ReportWriter::finding(const Finding &finding)
         [[fallthrough]];
     case FindingKind::NoFile:
     case FindingKind::WrongName:
-        add(report_words::ErrorOfFile);
+        addFixed(report_words::ErrorOfFile);
         break;
     default:
-        add(report_words::Error);
+        addFixed(report_words::Error);
     }
     add(finding.number);
-    add(report_words::NumberEnds);
+    addFixed(report_words::NumberEnds);
     addWords(findingWords(m_rules, finding, m_options.programVersion));
 }
 
 void ReportWriter::started()
 {
-    add(m_words.starting);
-    add(report_words::StartTime);
+    addFixed(m_words.starting);
+    addFixed(report_words::StartTime);
     add(m_clock());
-    addLine(report_words::TimeEnds);
+    addFixedLine(report_words::TimeEnds);
 }
 
 void ReportWriter::nameAccepted()
 {
-    addLine(m_words.rightName);
-    addLine(m_words.reading);
+    addFixedLine(m_words.rightName);
+    addFixedLine(m_words.reading);
 }
 
 void ReportWriter::lineBegins(qint64 line)
 {
-    add(report_words::Line);
+    addFixed(report_words::Line);
     add(line);
-    addLine(m_words.lineOfFile);
-    add(report_words::Counting);
+    addFixedLine(m_words.lineOfFile);
+    addFixed(report_words::Counting);
     add(line);
-    addLine(report_words::CountingOfFile);
+    addFixedLine(report_words::CountingOfFile);
 }
 
 void ReportWriter::countPassed(qint64 line)
 {
     if (m_options.onlyErrors)
         return;
-    add(report_words::CountPassed);
+    addFixed(report_words::CountPassed);
     add(line);
-    addLine(report_words::CountPassedEnds);
+    addFixedLine(report_words::CountPassedEnds);
 }
 
 void ReportWriter::fieldBegins(const Field &field)
 {
-    add(report_words::Field);
+    addFixed(report_words::Field);
     add(field.number);
-    add(field.label);
+    addFixed(field.label);
 }
 
 void ReportWriter::fieldRead(qint64 line, const Field &field, QStringView value)
 {
-    add(report_words::Value);
+    addFixed(report_words::Value);
     add(value);
-    add(report_words::ValueEnds);
+    addFixed(report_words::ValueEnds);
     add(line);
-    addLine(listOf(m_rules.kind, field));
+    addFixedLine(listOf(m_rules.kind, field));
 }
 
 void ReportWriter::fieldMissing()
@@ -110,24 +110,24 @@ void ReportWriter::fieldMissing()
 void ReportWriter::passed(QStringView words)
 {
     if (!m_options.onlyErrors)
-        addLine(words);
+        addFixedLine(words);
 }
 
 void ReportWriter::surplusBegins(qint64 line, int number)
 {
-    add(report_words::Field);
+    addFixed(report_words::Field);
     add(number);
-    add(report_words::SurplusOfRecord);
+    addFixed(report_words::SurplusOfRecord);
     add(line);
-    addLine(report_words::OfSalaryList);
+    addFixedLine(report_words::OfSalaryList);
 }
 
 void ReportWriter::finished()
 {
-    add(m_words.finishing);
-    add(report_words::EndTime);
+    addFixed(m_words.finishing);
+    addFixed(report_words::EndTime);
     add(m_clock());
-    addLine(report_words::TimeEnds);
+    addFixedLine(report_words::TimeEnds);
 }
 
 void ReportWriter::add(qint64 number)
@@ -141,9 +141,9 @@ void ReportWriter::add(qint64 number)
     m_sink.add(QStringView(first, digits.end()));
 }
 
-void ReportWriter::addLine(QStringView piece)
+void ReportWriter::addFixedLine(QStringView piece)
 {
-    m_sink.add(piece);
+    m_sink.addFixed(piece);
     m_sink.endLine();
 }
 
@@ -151,10 +151,12 @@ void ReportWriter::addLine(QStringView piece)
 void ReportWriter::addWords(QStringView words)
 {
     for (qsizetype end = words.indexOf(LineEnd); end >= 0; end = words.indexOf(LineEnd)) {
-        addLine(words.first(end));
+        add(words.first(end));
+        m_sink.endLine();
         words = words.sliced(end + LineEnd.size());
     }
-    addLine(words);
+    add(words);
+    m_sink.endLine();
 }
 
 ReportLog::ReportLog(SafeFile &file)

@@ -19,6 +19,8 @@ public:
 
     /// No piece has a CR LF in it.
     virtual void add(QStringView piece) = 0;
+    /// Likewise a piece that stays as it is for as long as the program runs: what is made of it can be kept.
+    virtual void addFixed(QStringView piece) { add(piece); }
     /// CR LF.
     virtual void endLine() = 0;
 };
@@ -46,7 +48,8 @@ public:
 private:
     void add(QStringView piece) { m_sink.add(piece); }
     void add(qint64 number);
-    void addLine(QStringView piece);
+    void addFixed(QStringView piece) { m_sink.addFixed(piece); }
+    void addFixedLine(QStringView piece);
     void addWords(QStringView words);
 
     const FileRules &m_rules;

@@ -4,7 +4,7 @@
 #include "core/basic/run_time_error.h"
 #include "core/platform/platform.h"
 #include "files/check_words.h"
-#include "files/faultless_lines.h"
+#include "files/split_walk.h"
 
 #include <utility>
 
@@ -13,8 +13,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 
-constexpr qint64 FewestRecords = 2;
-constexpr qint64 RecordsOfShortCheck = 2;
 constexpr qsizetype NameLength = 12;
 constexpr qsizetype KindLength = 2;
 
@@ -65,7 +63,7 @@ CheckOutcome StructureCheck::run(CheckEvents &events, const BeforeLine &beforeLi
     events.nameAccepted();
     return guarded([&] {
         m_reader = std::make_unique<LineReader>(m_path, m_options.blockUnits);
-        return m_reader->isEmpty() ? reportEmpty(events) : walk({}, events, beforeLine);
+        return m_reader->isEmpty() ? reportEmpty(events) : walk({.offset = m_reader->position()}, events, beforeLine);
     });
 }
 
@@ -74,10 +72,7 @@ CheckOutcome StructureCheck::runFrom(const CheckPlace &place, CheckEvents &event
     if (m_reader->hasChanged())
         throw RunTimeError(error::DeviceIo,
                            u"فايل پس از کنترل تغيير کرده است. لطفا دوباره آن را کنترل نماييد:\n"_s + m_path);
-    return guarded([&] {
-        m_reader->seek(place.offset);
-        return walk(place.state, events, beforeLine);
-    });
+    return guarded([&] { return walk(place, events, beforeLine); });
 }
 
 /// Turns what ends a run early into its outcome.
@@ -109,44 +104,32 @@ CheckOutcome StructureCheck::reportEmpty(CheckEvents &events)
     return {.end = CheckEnd::Empty, .errors = 1};
 }
 
-CheckOutcome StructureCheck::walk(CheckState state, CheckEvents &events, const BeforeLine &beforeLine)
+CheckOutcome StructureCheck::walk(const CheckPlace &from, CheckEvents &events, const BeforeLine &beforeLine)
 {
-    const bool isWh = m_rules.kind == FileKind::Wh;
-    LineCheck lines(m_rules, m_options.programVersion, state, events);
-    const FaultlessLines faultless(m_rules.rest, m_options.masks);
-    const bool passesOver = isWh && events.wantsErrorsAlone() && !m_options.firstTwoLines;
-    const auto next = [&](QStringView &line) {
-        if (passesOver && state.records > 0)
-            m_reader->pass(faultless.skip(m_reader->ahead(), state));
-        return m_reader->next(line);
-    };
-    QStringView line;
-    while (next(line)) {
-        if (line.isEmpty()) {
-            if (isWh && state.records < FewestRecords)
-                events.finding({.kind = FindingKind::TooFewRecords,
-                                .number = ++state.errors,
-                                .line = state.records + 1,
-                                .offset = m_reader->offset()});
-            break;
-        }
-        if (isWh && m_options.firstTwoLines && state.records == RecordsOfShortCheck)
-            break;
-        if (beforeLine && !beforeLine({m_reader->offset(), state}))
-            return {.end = CheckEnd::Cancelled, .records = state.records, .errors = state.errors};
-        if (const int field = lines.check(line, m_reader->offset())) {
-            const QString place = QString::number(field) + u" از خط شماره "_s + QString::number(state.records + 1);
-            return {.end = CheckEnd::Failed,
-                    .records = state.records,
-                    .errors = state.errors,
-                    .failure = error::TypeMismatch,
-                    .description = u"محتوي فيلد شماره "_s + place + u" با عدد مقايسه ميشود ولي عدد نيست"_s,
-                    .line = state.records + 1,
-                    .field = field};
-        }
+    CheckState state = from.state;
+    m_reader->seek(from.offset);
+    // Without a reader's place from line to line the cores can share the work.
+    const bool isSplit = m_options.threads > 1 && m_rules.kind == FileKind::Wh && events.wantsErrorsAlone()
+                         && !m_options.firstTwoLines && !beforeLine;
+    const WalkResult result = isSplit ? SplitWalk(m_rules, m_options, *m_reader, events).walk(state)
+                                      : LineWalk(m_rules, m_options, *m_reader, events).walk(state, beforeLine);
+    switch (result.end) {
+    case WalkEnd::Cancelled:
+        return {.end = CheckEnd::Cancelled, .records = state.records, .errors = state.errors};
+    case WalkEnd::Mismatch: {
+        const QString place = QString::number(result.field) + u" از خط شماره "_s + QString::number(state.records + 1);
+        return {.end = CheckEnd::Failed,
+                .records = state.records,
+                .errors = state.errors,
+                .failure = error::TypeMismatch,
+                .description = u"محتوي فيلد شماره "_s + place + u" با عدد مقايسه ميشود ولي عدد نيست"_s,
+                .line = state.records + 1,
+                .field = result.field};
     }
-    events.finished();
-    return {.records = state.records, .errors = state.errors};
+    default:
+        events.finished();
+        return {.records = state.records, .errors = state.errors};
+    }
 }
 
 std::optional<FileKind> fileKindOf(QStringView path)

@@ -26,31 +26,12 @@
 //     if (const auto box = closingBox(FileKind::Wh, outcome))
 //         platform.messageBox(box->style, box->title, box->text);
 
-#include "files/line_check.h"
-#include "files/line_reader.h"
-#include "files/unit_masks.h"
+#include "files/line_walk.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 
 namespace zrv {
-
-struct CheckOptions {
-    bool onlyErrors = false;    ///< the report leaves out what passed
-    bool firstTwoLines = false; ///< of a WH file the payer and the first payee only
-    QString programVersion;     ///< the checking program's version text
-
-    // They make no difference to what is found: tests and measurements choose.
-    MaskMaker masks = bestMaskMaker();
-    std::size_t blockUnits = LineReader::DefaultBlock;
-};
-
-/// A place between two lines, from which the check can go on.
-struct CheckPlace {
-    qint64 offset = 0; ///< of the line to come, in bytes from the file's beginning
-    CheckState state;
-};
 
 enum class CheckEnd {
     Finished, ///< every line was checked, or all that the options ask for
@@ -74,10 +55,6 @@ struct CheckOutcome {
     FileOddities oddities;
 };
 
-/// Called before each line that is looked at field by field, with events that want errors alone now and then. False
-/// cancels the run.
-using BeforeLine = std::function<bool(const CheckPlace &)>;
-
 class StructureCheck {
 public:
     /// The rules must outlive the check.
@@ -97,7 +74,7 @@ public:
 private:
     CheckOutcome refuse(FindingKind kind, CheckEvents &events);
     CheckOutcome reportEmpty(CheckEvents &events);
-    CheckOutcome walk(CheckState state, CheckEvents &events, const BeforeLine &beforeLine);
+    CheckOutcome walk(const CheckPlace &from, CheckEvents &events, const BeforeLine &beforeLine);
     CheckOutcome guarded(const std::function<CheckOutcome()> &walking) const;
 
     const FileRules &m_rules;

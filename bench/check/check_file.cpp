@@ -2,7 +2,7 @@
 
 // Checks one WH file the way zrvcheck does, with instructions of one's choice:
 //
-//     bench_check best|avx2|sse2|plain|none FILE
+//     bench_check best|avx2|sse2|plain|none THREADS FILE
 //
 // "none" looks at every line field by field. Its last line is the peak memory as the system tells it.
 // bench/check/run.py starts it.
@@ -32,15 +32,15 @@ private:
     bool m_errorsAlone;
 };
 
-std::optional<MaskMaker> makerNamed(QByteArrayView name)
+std::optional<Instructions> instructionsNamed(QByteArrayView name)
 {
     if (name == "avx2")
-        return maskMaker(Instructions::Avx2);
+        return Instructions::Avx2;
     if (name == "sse2")
-        return maskMaker(Instructions::Sse2);
+        return Instructions::Sse2;
     if (name == "plain")
-        return maskMaker(Instructions::Plain);
-    return name == "best" || name == "none" ? std::optional(bestMaskMaker()) : std::nullopt;
+        return Instructions::Plain;
+    return name == "best" || name == "none" ? std::optional(bestInstructions()) : std::nullopt;
 }
 
 void printPeakMemory()
@@ -58,13 +58,14 @@ void printPeakMemory()
 
 int main(int argc, char **argv)
 {
-    const std::optional<MaskMaker> maker = argc == 3 ? makerNamed(argv[1]) : std::nullopt;
-    if (!maker || !*maker)
+    const std::optional<Instructions> instructions = argc == 4 ? instructionsNamed(argv[1]) : std::nullopt;
+    if (!instructions || !hasInstructions(*instructions))
         return 2;
     Count events(QByteArrayView(argv[1]) != "none");
-    const CheckOutcome outcome = StructureCheck(whRules(), QFile::decodeName(argv[2]),
-                                                {.programVersion = CurrentProgramVersion.toString(), .masks = *maker})
-                                     .run(events);
+    const CheckOptions options{.programVersion = CurrentProgramVersion.toString(),
+                               .threads = QByteArray(argv[2]).toUInt(),
+                               .instructions = *instructions};
+    const CheckOutcome outcome = StructureCheck(whRules(), QFile::decodeName(argv[3]), options).run(events);
     std::printf("%lld lines, %lld errors\n", static_cast<long long>(outcome.records),
                 static_cast<long long>(outcome.errors));
     printPeakMemory();

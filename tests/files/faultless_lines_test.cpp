@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Whether passing over faultless lines ever changes what is found: files damaged at random, checked field by field and
-// with every kind of instructions and several sizes of blocks.
+// Whether passing over faultless lines, or sharing a file among threads, ever changes what is found: files damaged at
+// random, checked field by field and with every kind of instructions, several sizes of blocks and numbers of threads.
 
 #include "tests/files/check_fixture.h"
 
@@ -36,10 +36,8 @@ private:
 class FaultlessLinesTest : public StructureCheckTest {
 protected:
     /// What is found, and how the run ended.
-    QString found(const QString &path, bool errorsAlone, MaskMaker masks, std::size_t block)
+    QString found(const QString &path, bool errorsAlone)
     {
-        options.masks = masks;
-        options.blockUnits = block;
         FindingList list(errorsAlone);
         const CheckOutcome ended = StructureCheck(whRules(), path, options).run(list);
         linesLookedAt = list.linesLookedAt;
@@ -48,12 +46,12 @@ protected:
                + QString::number(ended.field);
     }
 
-    static std::vector<MaskMaker> makers()
+    static std::vector<Instructions> allInstructions()
     {
-        std::vector<MaskMaker> found;
+        std::vector<Instructions> found;
         for (const Instructions one : {Instructions::Plain, Instructions::Sse2, Instructions::Avx2}) {
-            if (maskMaker(one))
-                found.push_back(maskMaker(one));
+            if (hasInstructions(one))
+                found.push_back(one);
         }
         return found;
     }
@@ -61,27 +59,36 @@ protected:
     int linesLookedAt = 0;
 };
 
-TEST_F(FaultlessLinesTest, EveryMaskMakerSeesTheSame)
+TEST_F(FaultlessLinesTest, AllInstructionsSeeTheSameEndsOfFields)
 {
     std::mt19937 dice(1);
     constexpr char16_t Letters[] = u"0190,\r\n /:\0aعی\u0130\u2C2C\u0A0D\xD800\uFFFF\uFF0C";
-    for (int round = 0; round < 2000; ++round) {
-        std::array<char16_t, UnitsPerMask> units{};
+    const auto ends = std::make_unique<FieldEnds>();
+    for (int round = 0; round < 300; ++round) {
+        std::array<char16_t, 40 * FieldEnds::UnitsPerStep> units{};
+        // In every other round most are digits, and some fields are longer than a step.
         for (char16_t &unit : units)
-            unit = Letters[dice() % (std::size(Letters) - 1)];
-        UnitMasks expected{};
-        for (std::size_t i = 0; i < units.size(); ++i) {
-            expected.comma |= std::uint64_t(units[i] == u',') << i;
-            expected.carriageReturn |= std::uint64_t(units[i] == u'\r') << i;
-            expected.lineFeed |= std::uint64_t(units[i] == u'\n') << i;
-            expected.digit |= std::uint64_t(units[i] >= u'0' && units[i] <= u'9') << i;
-        }
-        for (MaskMaker const maker : makers()) {
-            const UnitMasks masks = maker(units.data());
-            EXPECT_EQ(masks.comma, expected.comma);
-            EXPECT_EQ(masks.carriageReturn, expected.carriageReturn);
-            EXPECT_EQ(masks.lineFeed, expected.lineFeed);
-            EXPECT_EQ(masks.digit, expected.digit);
+            unit = Letters[dice() % (round % 2 == 0 || dice() % 90 == 0 ? std::size(Letters) - 1 : 4)];
+        for (const Instructions one : allInstructions()) {
+            endsFinder(one)(units.data(), 40, *ends);
+            std::size_t end = 0;
+            bool digits = true;
+            bool noDigits = true;
+            for (std::size_t i = 0; i < units.size(); ++i) {
+                const bool isDigit = units[i] >= u'0' && units[i] <= u'9';
+                const bool isOfLine = units[i] == u'\r' || units[i] == u'\n';
+                if (units[i] != u',' && !isOfLine) {
+                    (isDigit ? noDigits : digits) = false;
+                    continue;
+                }
+                ASSERT_LT(end, ends->count);
+                ASSERT_EQ(ends->places[++end], i);
+                ASSERT_EQ(FieldEnds::bitsFrom(ends->digits, end - 1) & 1U, digits ? 1U : 0U) << i;
+                ASSERT_EQ(FieldEnds::bitsFrom(ends->noDigits, end - 1) & 1U, noDigits ? 1U : 0U) << i;
+                ASSERT_EQ(FieldEnds::bitsFrom(ends->ofLine, end - 1) & 1U, isOfLine ? 1U : 0U) << i;
+                digits = noDigits = true;
+            }
+            ASSERT_EQ(end, ends->count);
         }
     }
 }
@@ -95,10 +102,24 @@ TEST_F(FaultlessLinesTest, GoodLinesAreMostlyPassedOver)
         lines[i + 1] = payeeLine().with(14, u"0"_s).with(15, u"بيمه ايران"_s).with(6, u""_s).with(20, u""_s);
     }
     const QString path = write(utf16File(lines), u"WH138902.TXT"_s);
-    for (MaskMaker const maker : makers()) {
-        EXPECT_EQ(found(path, true, maker, LineReader::DefaultBlock), u"0 5000 0 0 0"_s);
+    for (const Instructions one : allInstructions()) {
+        options.instructions = one;
+        EXPECT_EQ(found(path, true), u"0 5000 0 0 0"_s);
         EXPECT_LT(linesLookedAt, 50);
     }
+}
+
+TEST_F(FaultlessLinesTest, AShareWithMoreErrorsThanAreKeptIsCheckedWhereItsTurnComes)
+{
+    QStringList lines(3000, payeeLine().and_(u"1"_s).and_(QString(300, u'x')));
+    lines[0] = payerLine();
+    lines[1500] = QString(20'000, u',');
+    const QString path = write(utf16File(lines), u"WH138902.TXT"_s);
+    const QString expected = found(path, false);
+    options.threads = 3;
+    EXPECT_EQ(found(path, true), expected);
+    options.shareBytes = 100'000;
+    EXPECT_EQ(found(path, true), expected);
 }
 
 /// One damage at a random place; most leave a line with an error, some don't.
@@ -163,10 +184,18 @@ TEST_F(FaultlessLinesTest, DamagedFilesHaveTheSameErrorsHoweverTheyAreRead)
         text.prepend(QChar(QChar::ByteOrderMark));
         const QString path = write(
             QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2 - round % 2), u"WH138902.TXT"_s);
-        const QString expected = found(path, false, bestMaskMaker(), LineReader::DefaultBlock);
-        for (MaskMaker const maker : makers()) {
-            for (const std::size_t block : {2, 100, 1001, 131072})
-                ASSERT_EQ(found(path, true, maker, block), expected) << "round " << round << ", block " << block;
+        options = {.programVersion = CheckedVersion};
+        const QString expected = found(path, false);
+        for (const Instructions one : allInstructions()) {
+            options.instructions = one;
+            for (const std::size_t block : {2, 100, 1001, 131072}) {
+                options.blockUnits = block;
+                options.threads = 1;
+                ASSERT_EQ(found(path, true), expected) << "round " << round << ", block " << block;
+                options.threads = 2 + unsigned(dice() % 3);
+                options.shareBytes = std::array{200, 1000, 5000, 20000}[dice() % 4];
+                ASSERT_EQ(found(path, true), expected) << "round " << round << ", share " << options.shareBytes;
+            }
         }
     }
 }

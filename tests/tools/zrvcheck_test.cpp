@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/check_catalogue.h"
+#include "files/check_words.h"
 #include "tests/files/check_fixture.h"
 #include "tools/zrvcheck/check_files.h"
 #include "tools/zrvcheck/file_list.h"
+#include "tools/zrvcheck/finding_lines.h"
 
 #include <QDir>
 #include <QProcess>
@@ -211,6 +213,73 @@ TEST_F(ZrvCheck, TheOutputIsInTheFilesOrderWhateverTheNumberOfThreads)
     }
     EXPECT_GT(outputs[0].size(), 1'000'000);
     EXPECT_EQ(outputs[0], outputs[1]);
+}
+
+TEST_F(ZrvCheck, TheOutputOfOneFileIsTheSameWhateverTheNumberOfThreads)
+{
+    QStringList lines(12'000, payeeLine());
+    lines[0] = payerLine();
+    for (int i = 1; i < 12'000; i += 7)
+        lines[i] = payeeLine().with(2 + i / 7 % 14, QString::number(i) + u'x');
+    lines[11'000] = payeeLine().with(16, u"x"_s);
+    const QString file = write(utf16File(lines), u"WH138902.TXT"_s);
+    ASSERT_GT(QFileInfo(file).size(), 4 << 20) << "some shares";
+    QByteArray outputs[2];
+    for (const unsigned threads : {1u, 3u}) {
+        QByteArray &out = outputs[threads == 1 ? 0 : 1];
+        OrderedOutput list([&](QByteArrayView text) { out.append(text); });
+        out += tableText(checkFiles({{file}, Request{}, StandingClock, threads}, list, nullptr)).toUtf8();
+        list.finish();
+    }
+    EXPECT_GT(outputs[0].size(), 300'000);
+    EXPECT_EQ(outputs[0], outputs[1]);
+}
+
+/// Holds the lines of all findings against their words, each made anew.
+class LineComparison : public CheckEvents {
+public:
+    explicit LineComparison(const FileRules &rules)
+        : m_rules(rules)
+        , m_lines(rules, CheckedVersion, u"f"_s)
+    {
+    }
+    void finding(const Finding &finding) override
+    {
+        QByteArray line;
+        m_lines.append(finding, line);
+        EXPECT_EQ(QString::fromUtf8(line), u"f:%1:%2: %3: "_s.arg(finding.line).arg(finding.field).arg(finding.number)
+                                               + findingLine(m_rules, finding, CheckedVersion) + u'\n');
+        ++compared;
+    }
+
+    int compared = 0;
+
+private:
+    const FileRules &m_rules;
+    FindingLines m_lines;
+};
+
+TEST_F(ZrvCheck, AnErrorHasItsOwnWordsHoweverOftenOthersCame)
+{
+    QStringList wh = {payerLine()};
+    QStringList wk = {summaryLine()};
+    for (const QString &value : {u""_s, u"x"_s, u"1x"_s, u"12"_s, u"xy"_s, u"ع"_s, u"+"_s, QString(60, u'7')}) {
+        for (int field = 1; field <= 34; ++field)
+            wh += payeeLine().with(field, field == 16 ? u"1"_s : value).with(12, field % 2 == 0 ? u"1"_s : u"2"_s);
+        wh += payeeLine().and_(value);
+        wh += payeeLine().cutTo(int(value.size()) % 30 + 17);
+    }
+    for (const QStringList &lines : {wh, QStringList{u"1"_s + QString(20, u','), wh[1]}, QStringList{u"x"_s}}) {
+        LineComparison comparison(whRules());
+        StructureCheck(whRules(), write(utf16File(lines), u"WH138902.TXT"_s), options).run(comparison);
+        EXPECT_GT(comparison.compared, 3);
+    }
+    for (const QStringList &lines : {QStringList{u"x"_s + QString(28, u','), u"x"_s, QString(30, u',')},
+                                     QStringList{chequeLine().with(1, u""_s)}}) {
+        LineComparison comparison(wkRules());
+        StructureCheck(wkRules(), write(utf16File(lines), u"WK138902.TXT"_s), options).run(comparison);
+        EXPECT_GE(comparison.compared, 2);
+    }
 }
 
 TEST_F(ZrvCheck, AnOutputThatFailsIsHeardOfAtTheEnd)

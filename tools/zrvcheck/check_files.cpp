@@ -4,6 +4,8 @@
 #include "core/basic/run_time_error.h"
 #include "core/public/program_version.h"
 #include "files/check_catalogue.h"
+#include "tools/zrvcheck/file_output.h"
+#include "tools/zrvcheck/finding_lines.h"
 
 #include <algorithm>
 #include <atomic>
@@ -17,64 +19,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype BlockBytes = 65536;
-
-/// One file's way into an output, by blocks.
-class FileOutput {
-public:
-    FileOutput(OrderedOutput *output, std::size_t place)
-        : m_output(output)
-        , m_place(place)
-    {
-    }
-    ~FileOutput()
-    {
-        if (m_output)
-            m_output->close(m_place);
-    }
-    FileOutput(const FileOutput &) = delete;
-    FileOutput &operator=(const FileOutput &) = delete;
-
-    void addText(const QString &text) { add(text.toUtf8()); }
-    void add(QByteArrayView utf8)
-    {
-        m_block.append(utf8);
-        if (m_block.size() >= BlockBytes)
-            flush();
-    }
-    void flush()
-    {
-        if (m_output && !m_block.isEmpty())
-            m_output->add(m_place, m_block);
-        m_block.resize(0);
-    }
-
-private:
-    OrderedOutput *m_output;
-    std::size_t m_place;
-    QByteArray m_block;
-};
-
-class ReportToFile : public ReportSink {
-public:
-    explicit ReportToFile(FileOutput &output)
-        : m_output(output)
-    {
-    }
-    void add(QStringView piece) override { m_output.add(piece.toUtf8()); }
-    void endLine() override { m_output.add(QByteArrayView("\r\n")); }
-
-private:
-    FileOutput &m_output;
-};
-
 /// Writes a line for each error and keeps the first for the table.
 class ErrorLines : public CheckEvents {
 public:
     ErrorLines(const FileRules &rules, const CheckOptions &options, FileResult &result, FileOutput *lines)
         : m_rules(rules)
-        , m_options(options)
         , m_result(result)
+        , m_words(rules, options.programVersion, result.path)
         , m_lines(lines)
     {
     }
@@ -84,9 +35,10 @@ public:
     {
         if (m_result.firstError.isEmpty())
             m_result.firstError = place(finding) + u' ' + findingName(m_rules, finding);
-        if (m_lines)
-            m_lines->addText(m_result.path + u':' + place(finding) + u": "_s + QString::number(finding.number) + u": "_s
-                             + findingLine(m_rules, finding, m_options.programVersion) + u'\n');
+        if (m_lines) {
+            m_words.append(finding, m_lines->block());
+            m_lines->flushIfFull();
+        }
     }
 
 private:
@@ -96,8 +48,8 @@ private:
     }
 
     const FileRules &m_rules;
-    const CheckOptions &m_options;
     FileResult &m_result;
+    FindingLines m_words;
     FileOutput *m_lines;
 };
 
@@ -142,7 +94,8 @@ FileResult checkFile(const QString &path, const CheckJob &job, FileOutput &list,
     const FileRules &rules = rulesOf(fileKindOf(path).value_or(FileKind::Wh));
     const CheckOptions options{.onlyErrors = request.onlyErrors,
                                .firstTwoLines = request.firstTwoLines,
-                               .programVersion = CurrentProgramVersion.toString()};
+                               .programVersion = CurrentProgramVersion.toString(),
+                               .threads = std::max(1U, job.threads / unsigned(job.files.size()))};
     FileResult result{.path = path};
     ErrorLines lines(rules, options, result, request.summary || writesReport ? nullptr : &list);
     const CheckOutcome outcome = StructureCheck(rules, path, options).run(lines);
@@ -151,7 +104,7 @@ FileResult checkFile(const QString &path, const CheckJob &job, FileOutput &list,
     addRemarks(outcome, result, list);
     // Only now is it known whether there is a report.
     if (writesReport && outcome.showsReport) {
-        ReportToFile sink(reports);
+        Utf8Report sink(reports);
         ReportWriter writer(rules, options, job.clock, sink);
         StructureCheck(rules, path, options).run(writer);
     }
