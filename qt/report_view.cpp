@@ -190,8 +190,9 @@ void ReportView::showCurrent()
     if (line >= 0 && !m_stays)
         bringIntoView(line);
     viewport()->update();
+    // A report that is gone has another current line from here on.
     const ReportPage &seen = page();
-    setAccessibleDescription(line < 0 ? QString() : drawn(seen.lines.value(line - seen.first)));
+    setAccessibleDescription(drawn(seen.lines.value(m_box.currentLine() - seen.first)));
 }
 
 // Painting -------------------------------------------------------------------------------------------------------
@@ -199,8 +200,8 @@ void ReportView::showCurrent()
 void ReportView::paintLine(QPainter &painter, const QRect &room, const QString &text, qint64 line,
                            bool tellsError) const
 {
-    const auto [first, last] = std::minmax(m_box.anchorLine(), m_box.currentLine());
-    const bool isMarked = line >= first && line <= last;
+    const bool isMarked = line >= std::min(m_box.anchorLine(), m_box.currentLine())
+                          && line <= std::max(m_box.anchorLine(), m_box.currentLine());
     const QPalette::ColorGroup group = hasFocus() ? QPalette::Active : QPalette::Inactive;
     QColor ink = palette().color(isEnabled() ? group : QPalette::Disabled, QPalette::Text);
     if (isMarked) {

@@ -1,0 +1,311 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Reports of any length: what is drawn, what is asked for, and the ways through them.
+#include "qt/report_view.h"
+#include "tests/qt/window_fixture.h"
+
+#include <QScrollBar>
+
+namespace zrv::test {
+
+namespace {
+
+/// Made when asked for, and counted; every thousandth line tells an error.
+class CountingLines : public ReportLines {
+public:
+    explicit CountingLines(qint64 count)
+        : m_count(count)
+    {
+    }
+    [[nodiscard]] qint64 lineCount() override { return m_count; }
+    [[nodiscard]] qint64 length() override { return 14 * m_count; }
+    [[nodiscard]] QString lines(qint64 first, qint64 count) override
+    {
+        if (isGone)
+            throw RunTimeError(error::DeviceIo, u"فايل تغيير کرده است"_s);
+        QStringList made;
+        for (qint64 line = first; line < std::min(m_count, first + count); ++line)
+            made += (line == longLine ? QString(30'000, u'ب') : u"خط "_s) + QString::number(line);
+        asked += made.size();
+        return made.join(u"\r\n"_s);
+    }
+    [[nodiscard]] qint64 nextError(qint64 line) override
+    {
+        const qint64 next = (line / 1000 + (line < 0 ? 0 : 1)) * 1000;
+        return next < m_count ? next : -1;
+    }
+
+    qint64 asked = 0;
+    qint64 longLine = -1;
+    bool isGone = false;
+
+private:
+    qint64 m_count;
+};
+
+class ReportForm : public TestForm {
+public:
+    TextBox before{*this, u"before"_s};
+    ReportBox report{*this, u"report"_s, {.spokenName = u"گزارش"_s}};
+};
+
+constexpr qint64 Billions = 3'000'000'000;
+
+} // namespace
+
+class Reports : public testing::Test {
+protected:
+    Reports()
+    {
+        shown.window.resize(600, 400);
+        show(Billions);
+        form.userFocus(report);
+        QCoreApplication::processEvents();
+    }
+    void show(qint64 count)
+    {
+        lines = std::make_shared<CountingLines>(count);
+        report.setLines(lines);
+        QCoreApplication::processEvents();
+    }
+    void press(int key, Qt::KeyboardModifiers held = {}, const QString &text = {})
+    {
+        pressKey(view(), key, text, held);
+        QCoreApplication::processEvents();
+    }
+    void mouse(QEvent::Type type, qint64 line, Qt::KeyboardModifiers held = {})
+    {
+        const QPointF place = QRectF(view().lineRect(line)).center();
+        const bool isRelease = type == QEvent::MouseButtonRelease;
+        QMouseEvent event(type, place, view().viewport()->mapToGlobal(place),
+                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+                          isRelease ? Qt::NoButton : Qt::LeftButton, held);
+        QApplication::sendEvent(view().viewport(), &event);
+    }
+    ReportView &view() { return static_cast<ReportView &>(*shown.window.inputFor(report)); }
+    QRgb colorAt(qint64 line)
+    {
+        const QImage picture = view().viewport()->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        const QRect place = view().lineRect(line);
+        return picture.pixel(QPoint(3, place.center().y()) * picture.devicePixelRatio());
+    }
+
+    std::shared_ptr<CountingLines> lines;
+    Shown<ReportForm> shown;
+    ReportForm &form = shown.form;
+    ReportBox &report = form.report;
+};
+
+TEST_F(Reports, OnlyWhatIsInViewIsAskedForAndOnce)
+{
+    EXPECT_GT(view().linesInView(), 5);
+    EXPECT_LE(lines->asked, view().linesInView() + 1);
+    view().viewport()->repaint();
+    view().viewport()->repaint();
+    EXPECT_LE(lines->asked, view().linesInView() + 1);
+    lines->asked = 0;
+    press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(report.currentLine(), Billions - 1);
+    EXPECT_EQ(view().topLine(), Billions - view().linesInView());
+    EXPECT_LE(lines->asked, view().linesInView() + 1);
+}
+
+TEST_F(Reports, TheScrollBarReachesBothEndsOfMoreLinesThanItHasPlaces)
+{
+    QScrollBar &bar = *view().verticalScrollBar();
+    bar.setValue(bar.maximum());
+    EXPECT_EQ(view().topLine(), Billions - view().linesInView());
+    bar.setValue(bar.maximum() / 2);
+    EXPECT_NEAR(double(view().topLine()), double(Billions) / 2, 10);
+    bar.setValue(0);
+    EXPECT_EQ(view().topLine(), 0);
+}
+
+TEST_F(Reports, TheScrollBarsArrowsGoLineByLineWhereAPlaceIsManyLines)
+{
+    QScrollBar &bar = *view().verticalScrollBar();
+    for (int step = 0; step < 7; ++step)
+        bar.triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    EXPECT_EQ(view().topLine(), 7);
+    bar.triggerAction(QAbstractSlider::SliderPageStepAdd);
+    EXPECT_EQ(view().topLine(), 7 + view().linesInView());
+    bar.triggerAction(QAbstractSlider::SliderSingleStepSub);
+    EXPECT_EQ(view().topLine(), 6 + view().linesInView());
+}
+
+TEST_F(Reports, EveryLineOfSeventyMillionHasAPlaceOnTheBar)
+{
+    show(70'000'000);
+    view().verticalScrollBar()->setValue(69'000'001);
+    EXPECT_EQ(view().topLine(), 69'000'001);
+    view().verticalScrollBar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+    EXPECT_EQ(view().topLine(), 69'000'002);
+}
+
+TEST_F(Reports, TheWheelMovesAFewLines)
+{
+    QWheelEvent wheel({5, 5}, view().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QApplication::sendEvent(view().viewport(), &wheel);
+    EXPECT_EQ(view().topLine(), QApplication::wheelScrollLines());
+    EXPECT_EQ(report.currentLine(), 0) << "only the view moves";
+}
+
+TEST_F(Reports, KeysGoThroughTheLinesAndTheViewFollows)
+{
+    press(Qt::Key_Down);
+    EXPECT_EQ(report.currentLine(), 1);
+    EXPECT_EQ(view().topLine(), 0);
+    press(Qt::Key_PageDown);
+    EXPECT_EQ(report.currentLine(), 1 + view().linesInView());
+    EXPECT_EQ(view().topLine(), 2);
+    press(Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(report.currentLine(), 0);
+    EXPECT_EQ(view().topLine(), 0);
+    press(Qt::Key_F8);
+    EXPECT_EQ(report.currentLine(), 1000);
+}
+
+TEST_F(Reports, LinesAreMarkedByShiftAndByMouseAndCopied)
+{
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"خط 0\r\nخط 1\r\nخط 2\r\n"_s);
+    mouse(QEvent::MouseButtonPress, 4);
+    mouse(QEvent::MouseMove, 5);
+    mouse(QEvent::MouseButtonRelease, 5);
+    EXPECT_EQ(report.anchorLine(), 4);
+    EXPECT_EQ(report.currentLine(), 5);
+    mouse(QEvent::MouseButtonPress, 2, Qt::ShiftModifier);
+    mouse(QEvent::MouseButtonRelease, 2);
+    EXPECT_EQ(report.anchorLine(), 4);
+    EXPECT_EQ(report.currentLine(), 2);
+    chooseFromContextMenu(view(), u"copy"_s);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"خط 2\r\nخط 3\r\nخط 4\r\n"_s);
+}
+
+TEST_F(Reports, AllThatIsTooMuchToCopyIsRefusedInABox)
+{
+    QGuiApplication::clipboard()->setText(u"before"_s);
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(report.anchorLine(), 0);
+    EXPECT_EQ(report.currentLine(), Billions - 1);
+    EXPECT_EQ(view().topLine(), 0) << "marking all moves nothing";
+    lines->asked = 0;
+    press(Qt::Key_C, Qt::ControlModifier);
+    ASSERT_EQ(shown.platform.boxes.size(), 1U);
+    EXPECT_EQ(shown.platform.boxes[0].style, box::RefusalRtl);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), u"before"_s);
+    EXPECT_LE(lines->asked, view().linesInView() + 1);
+
+    show(100'000);
+    chooseFromContextMenu(view(), u"selectAll"_s);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().count(u'\n'), 100'000);
+}
+
+TEST_F(Reports, ADoubleClickAndEnterTellTheScreenOfTheLine)
+{
+    QList<qint64> told;
+    report.onLineDoubleClick = [&](qint64 line) { told += line; };
+    mouse(QEvent::MouseButtonPress, 3);
+    mouse(QEvent::MouseButtonRelease, 3);
+    mouse(QEvent::MouseButtonDblClick, 3);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return, {}, u"\r"_s);
+    EXPECT_EQ(told, (QList<qint64>{3, 4}));
+}
+
+TEST_F(Reports, LinesThatTellAnErrorAndMarkedOnesHaveTheirOwnGround)
+{
+    report.setCurrentLine(2);
+    QCoreApplication::processEvents();
+    const QRgb plain = colorAt(1);
+    EXPECT_NE(colorAt(0), plain) << "line 0 tells an error";
+    EXPECT_NE(colorAt(2), plain);
+    EXPECT_NE(colorAt(2), colorAt(0));
+    EXPECT_EQ(colorAt(3), plain);
+}
+
+TEST_F(Reports, ALongLineScrollsSidewaysFromTheRight)
+{
+    show(5);
+    EXPECT_EQ(view().horizontalScrollBar()->maximum(), 0);
+    lines = std::make_shared<CountingLines>(5);
+    lines->longLine = 4;
+    report.setLines(lines);
+    QCoreApplication::processEvents();
+    QScrollBar &bar = *view().horizontalScrollBar();
+    EXPECT_GT(bar.maximum(), 600);
+    press(Qt::Key_Left);
+    EXPECT_GT(bar.value(), 0);
+    press(Qt::Key_End);
+    EXPECT_EQ(bar.value(), bar.maximum());
+    press(Qt::Key_Home);
+    EXPECT_EQ(bar.value(), 0);
+    EXPECT_EQ(report.currentLine(), 0);
+}
+
+TEST_F(Reports, AShortReportBeginsAtTheRight)
+{
+    show(1);
+    report.setText(u"متن"_s);
+    form.userFocus(form.before);
+    QCoreApplication::processEvents();
+    const QImage picture = view().viewport()->grab().toImage();
+    const QRgb ground = picture.pixel(3, 3);
+    int first = picture.width();
+    for (int x = 0; x < picture.width(); ++x)
+        for (int y = 2; y < view().lineRect(0).height() - 2; ++y)
+            if (picture.pixel(x, y) != ground)
+                first = std::min(first, x);
+    EXPECT_GT(first, picture.width() / 2);
+    EXPECT_LT(first, picture.width());
+}
+
+TEST_F(Reports, CtrlFOpensAFieldBelowThatSeeksAndEscapeLeadsBack)
+{
+    QWidget *const bar = shown.window.findChild<QWidget *>(u"report_FindBar"_s);
+    ASSERT_TRUE(bar);
+    EXPECT_FALSE(bar->isVisible());
+    press(Qt::Key_F, Qt::ControlModifier, u"\u0006"_s);
+    EXPECT_TRUE(bar->isVisible());
+    auto *const word = qobject_cast<QLineEdit *>(shown.window.focusWidget());
+    ASSERT_TRUE(word);
+    EXPECT_EQ(word->objectName(), u"report_Find"_s);
+    EXPECT_GE(bar->geometry().top(), view().geometry().bottom());
+    type(*word, u"خط 14"_s);
+    pressKey(*word, Qt::Key_Return, u"\r"_s);
+    EXPECT_EQ(report.currentLine(), 14);
+    pressKey(*word, Qt::Key_F3);
+    EXPECT_EQ(report.currentLine(), 140);
+    pressKey(*word, Qt::Key_Escape, u"\u001B"_s);
+    EXPECT_FALSE(bar->isVisible());
+    EXPECT_EQ(shown.window.focusWidget(), &view());
+}
+
+TEST_F(Reports, AReportThatIsGoneShowsTheErrorsWords)
+{
+    lines->isGone = true;
+    press(Qt::Key_End, Qt::ControlModifier);
+    view().viewport()->repaint();
+    EXPECT_EQ(report.text(), u"فايل تغيير کرده است"_s);
+    EXPECT_EQ(view().topLine(), 0);
+    EXPECT_EQ(view().accessibleDescription(), u"فايل تغيير کرده است"_s);
+    EXPECT_EQ(form.failures, 0);
+}
+
+TEST_F(Reports, AScreenReaderHearsTheNameAndTheCurrentLine)
+{
+    EXPECT_EQ(view().accessibleName(), u"گزارش"_s);
+    press(Qt::Key_Down);
+    EXPECT_EQ(view().accessibleDescription(), u"خط 1"_s);
+}
+
+TEST_F(Reports, TheTabKeyLeavesAReport)
+{
+    press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_TRUE(form.before.hasFocus());
+}
+
+} // namespace zrv::test
