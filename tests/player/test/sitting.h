@@ -74,6 +74,8 @@ public:
             {{.field = u"a"_s, .caption = u"A"_s}, {.field = u"b"_s, .caption = u"B"_s, .format = u"#,##0"_s}});
         grid.setRows(std::make_shared<Rows>());
         grid.onDblClick = [this] { log += u"row "_s + grid.currentCell(u"a"); };
+        report.setText(u"يك\r\nعلی\r\nسه\r\n"_s);
+        report.onLineDoubleClick = [this](qint64 line) { log += u"line "_s + QString::number(line); };
         grid.onHeadClick = [this](int column) { log += u"head "_s + QString::number(column); };
     }
 
@@ -99,6 +101,7 @@ public:
     OptionButton left{*this, u"OptLeft"_s, {.checked = true}};
     OptionButton right{*this, u"OptRight"_s};
     Grid grid{*this, u"dbgRows"_s};
+    ReportBox report{*this, u"txtReport"_s};
     Button ask{*this, u"cmdAsk"_s, {.caption = u"&پرسش"_s}};
     Button tell{*this, u"cmdTell"_s};
     Button dialog{*this, u"cmdFile"_s};

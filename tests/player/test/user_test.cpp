@@ -81,6 +81,17 @@ TEST_F(SittingTest, WhatIsNotThereOrTakesNoFocusFails)
     fails("focus lblWord(1)");
 }
 
+TEST_F(SittingTest, ALineOfAReportIsChosenFoundAndDoubleClicked)
+{
+    holds("row txtReport 3\nexpect txtReport line 3\nexpect txtReport focused yes\nkey Up\nexpect txtReport line 2\n"
+          "dblclick txtReport\nkey Enter\n");
+    EXPECT_EQ(log.mid(log.size() - 2), QStringList({u"line 1"_s, u"line 1"_s}));
+    holds("focus txtReport\nkey Ctrl+F\nexpect txtReport_Find focused yes\nkeys \"علي\"\nkey Enter\n"
+          "expect txtReport line 2\nkey Escape\nexpect txtReport focused yes\nexpect txtReport_Find visible no\n");
+    holds("expect txtReport rows 3\nexpect txtReport text \"يك\\r\\nعلی\\r\\nسه\\r\\n\"\n");
+    fails("row txtReport 4");
+}
+
 TEST_F(SittingTest, RowsAndHeadsOfAGrid)
 {
     holds("row dbgRows 2\ndblclick dbgRows\nhead dbgRows 1\n");
