@@ -23,7 +23,11 @@ bool change(const QString &word, std::vector<Table> &tables, Manner &manner)
         cellOf(tableOf(tables, u"ZRVtbKarkonan"), 0, u"Family") = u"ãÍãÏ"_s;
     else if (word == u"odd-letter")
         cellOf(tableOf(tables, u"ZRVtbKarkonan"), 0, u"Family") = u"㼰ب"_s;
-    else if (word == u"missing-table")
+    else if (word == u"user-code") {
+        tableOf(tables, u"ZRVtbCoding").rows.push_back({u"10"_s, u"رسته شغلي"_s, u"10"_s, u"راننده"_s});
+        for (const int payee : {2, 5})
+            cellOf(tableOf(tables, u"ZRVtbKarkonan"), payee, u"Rasteh") = u"10"_s;
+    } else if (word == u"missing-table")
         std::erase_if(tables, [](const Table &table) { return table.shape.name == u"ZRVtbHogog"; });
     else
         return word == u"cut-off" || word == u"in-use";
@@ -43,10 +47,14 @@ int main(int argc, char **argv)
     QStringList words;
     for (int i = 1; i < argc; ++i)
         words.append(QFile::decodeName(argv[i]));
-    const QStringList ages = {u"old"_s, u"upgraded"_s, u"current"_s};
-    bool isUsable = words.size() >= 2 && ages.contains(words[1]);
+    // An age, and how many payees if not twelve.
+    const QStringList age = words.value(1).split(u'=');
+    const int payees = age.size() == 2 ? age[1].toInt() : 12;
+    const QStringList ages = {u"old"_s, u"upgraded"_s, u"current"_s, u"oldest"_s};
+    bool isUsable = payees > 0 && ages.contains(age[0]);
     if (isUsable) {
-        std::vector<Table> tables = oldStore(Age(ages.indexOf(words[1])));
+        std::vector<Table> tables =
+            age[0] == u"oldest" ? oldestStore(payees) : oldStore(Age(ages.indexOf(age[0])), payees);
         Manner manner{.isCompressed = true, .movedEach = 5, .deletedEach = 4};
         for (const QString &word : words.mid(2))
             isUsable = isUsable && change(word, tables, manner);
@@ -58,8 +66,9 @@ int main(int argc, char **argv)
                    && (!words.contains(u"in-use"_s) || write(folder.filePath(u"DBZorvan.ldb"_s), {}));
     }
     if (!isUsable)
-        (void)std::fputs("usage: zrvjet DIR old|upgraded|current [password] [old-code-page] [odd-letter]"
-                         " [missing-table] [cut-off] [in-use]\n",
-                         stderr);
+        (void)std::fputs(
+            "usage: zrvjet DIR oldest|old|upgraded|current[=PAYEES] [password] [old-code-page] [odd-letter]"
+            " [user-code] [missing-table] [cut-off] [in-use]\n",
+            stderr);
     return isUsable ? 0 : 2;
 }

@@ -2,6 +2,7 @@
 #include "tests/jet_writer/old_stores.h"
 
 #include "core/store/schema.h"
+#include "tools/sample/sample_store.h"
 #include "tools/zrvstore/create.h"
 #include "tools/zrvstore/store_folder.h"
 
@@ -64,9 +65,10 @@ TableShape shapeOf(const TableShape &current, Age age)
 
 class Sample {
 public:
-    Sample(int payees, int months)
+    explicit Sample(const sample::Plan &plan)
+        : m_tables(sample::schemaOf(plan))
     {
-        storetool::createSample(m_folder.path(), {.payees = payees, .months = months, .year = 1389, .rng = 7});
+        storetool::createSample(m_folder.path(), plan);
         sqlite3_open_v2(QFile::encodeName(storetool::storeIn(m_folder.path())).constData(), &m_database,
                         SQLITE_OPEN_READONLY, nullptr);
     }
@@ -97,12 +99,13 @@ public:
     }
 
 private:
-    static bool isKnown(const TableShape &shape, std::size_t column)
+    [[nodiscard]] bool isKnown(const TableShape &shape, std::size_t column) const
     {
-        const auto current = std::ranges::find(storeSchema(), shape.name, &TableShape::name);
-        return current->column(shape.columns[column].name) != nullptr;
+        const auto table = std::ranges::find(m_tables, shape.name, &TableShape::name);
+        return table->column(shape.columns[column].name) != nullptr;
     }
 
+    const std::vector<TableShape> &m_tables;
     QTemporaryDir m_folder;
     sqlite3 *m_database = nullptr;
 };
@@ -111,7 +114,7 @@ private:
 
 std::vector<Table> oldStore(Age age, int payees, int months)
 {
-    const Sample sample(payees, months);
+    const Sample sample({.payees = payees, .months = months, .year = 1389, .rng = 7});
     std::vector<Table> tables;
     for (const TableShape &current : storeSchema()) {
         const TableShape shape = shapeOf(current, age);
@@ -119,6 +122,16 @@ std::vector<Table> oldStore(Age age, int payees, int months)
         const std::size_t columns = shapeOf(current, age == Age::Upgraded ? Age::Old : age).columns.size();
         tables.push_back({shape, sample.rows(shape, columns)});
     }
+    return tables;
+}
+
+std::vector<Table> oldestStore(int payees, int months)
+{
+    const sample::Plan plan{.payees = payees, .months = months, .year = 1388, .rng = 7, .old = true};
+    const Sample sample(plan);
+    std::vector<Table> tables;
+    for (const TableShape &shape : sample::schemaOf(plan))
+        tables.push_back({shape, sample.rows(shape, shape.columns.size())});
     return tables;
 }
 

@@ -6,8 +6,11 @@
 #   play.sh headless|widgets SCENARIO WORK BIN    WORK/headless or WORK/widgets is made afresh for it
 #   play.sh same SCENARIO WORK BIN                both have been played before
 #   play.sh display SCENARIO WORK BIN             likewise; plays it on an X display and compares that account, too
+#
+# 77 when the scenario needs a file that isn't here.
 set -euo pipefail
 way=$1 scenario=$2 work=$3 bin=$4
+files=${ZRV_JET_FILES:-${0%/*}/../../../shared/jet}
 
 # account WAY: the transcript of a play, with its folder as ${folder}, so that two plays can be compared.
 account() {
@@ -28,12 +31,11 @@ make_damaged_store() {
 
 # make_store FOLDER: what the "#store" line of the scenario's head asks for.
 make_store() {
-    local words
-    read -ra words < <(sed -n -e '/^#/!q' -e 's/^#store //p' "$scenario" | head -n 1) || true
     case ${words[0]-none} in
         none) ;;
         old) "$bin/zrvjet" "$1" "${words[@]:1}" ;;
         damaged) make_damaged_store "$1" ;;
+        file) install -m 600 "$files/${words[1]}" "$1/DBZorvan.mdb" ;;
         *) "$bin/zrvstore" "${words[0]}" "$1" "${words[@]:1}" >/dev/null ;;
     esac
 }
@@ -42,6 +44,12 @@ make_store() {
 same() {
     diff -u --label headless <(account headless) --label "$1" <(account "$1")
 }
+
+read -ra words < <(sed -n -e '/^#/!q' -e 's/^#store //p' "$scenario" | head -n 1) || true
+if [ "${words[0]-}" = file ] && [ ! -e "$files/${words[1]}" ]; then
+    printf '%s is not here\n' "$files/${words[1]}"
+    exit 77
+fi
 
 if [ "$way" = same ]; then
     same widgets
