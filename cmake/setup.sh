@@ -23,9 +23,9 @@ trap 'fail "stopped at line $LINENO of $(basename "${BASH_SOURCE[0]}"): $BASH_CO
 build_packages=(g++ cmake ninja-build qt6-base-dev libsqlite3-dev libzint-dev)
 window_packages=(fonts-noto-core qt6-translations-l10n)
 # The tests use a display of their own (xvfb with a window manager), readers of what is printed (PDF and bar codes) and
-# the tools that look after the sources; clang with its run-time library builds what is fuzzed;
+# of old databases, and the tools that look after the sources; clang with its run-time library builds what is fuzzed;
 # clang-format and clang-tidy bring python3, the lints' language, which is named all the same.
-test_packages=(libgtest-dev libgmock-dev xvfb xauth herbstluftwm poppler-utils zbar-tools sqlite3 python3
+test_packages=(libgtest-dev libgmock-dev xvfb xauth herbstluftwm poppler-utils zbar-tools mdbtools sqlite3 python3
     clang-format clang-tidy clang-14 libclang-rt-14-dev)
 
 # missing_packages NAME...: those of the named packages that dpkg does not call installed, one a line.
