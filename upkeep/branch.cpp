@@ -52,14 +52,15 @@ void copyProgram(const QString &program, const QString &copy)
                        u"فايل زير ايجاد نشد. لطفا فضاي ديسک و دسترسي پوشه را بررسي نماييد:\n"_s + copy);
 }
 
-/// Base data and users stay.
+/// Base data and users stay; of all else nothing is left in the file.
 void EmptyBranchStore(const QString &branchFolder)
 {
-    Connection store(u"Provider = Microsoft.Jet.OLEDB.4.0;Data Source = "_s + branchFolder
-                     + u"\\DBZorvan.mdb;Persist Security Info=False"_s);
+    const QString connection = u"Provider = Microsoft.Jet.OLEDB.4.0;Data Source = "_s + branchFolder
+                               + u"\\DBZorvan.mdb;Persist Security Info=False"_s;
     for (const QStringView statement : {u" DELETE From ZRVtbKarfarma ", u" DELETE From ZRVtbKarkonan ",
                                         u" DELETE From ZRVtbHogog ", u" DELETE From ZRVtbKholList "})
-        store.execute(statement.toString());
+        Connection(connection).execute(statement.toString());
+    compactStore(branchFolder + u'/' + StoreName);
 }
 
 } // namespace

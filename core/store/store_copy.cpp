@@ -66,7 +66,7 @@ public:
 
 } // namespace
 
-void copyStore(const QString &store, const QString &copy)
+void copyStore(const QString &store, const QString &copy, EarlierCopy earlier)
 {
     // A journal that is left of another file would be taken for the copy's own, and overwrite it.
     if (QFileInfo::exists(copy + u"-journal"_s) || QFileInfo(copy).isDir())
@@ -83,8 +83,14 @@ void copyStore(const QString &store, const QString &copy)
         if (!isSound(made) || rowCounts(made) != counts)
             refuse(u"فايل پشتيبان ايجاد شده سالم نيست", copy);
     }
-    if (!replaceFile(draft.path, copy))
+    const bool isNamed = earlier == EarlierCopy::Replaced ? replaceFile(draft.path, copy) : giveName(draft.path, copy);
+    if (!isNamed)
         refuse(u"فايل پشتيبان ايجاد نشد . فضاي ديسک و دسترسي پوشه را بررسي نماييد", copy);
+}
+
+void compactStore(const QString &store)
+{
+    StoreFile(store).run(u"VACUUM"_s);
 }
 
 } // namespace zrv

@@ -64,6 +64,23 @@ TEST_F(BranchTest, BranchHasTheProgramAndTheStoreWithBaseDataAndUsersAlone)
     EXPECT_EQ(platform.settings.value(u"ShobeCount/ShobeCountKey"_s), u"2"_s);
 }
 
+TEST_F(BranchTest, NothingOfThePayeesIsLeftInTheBranchsFile)
+{
+    ASSERT_TRUE(QFile::remove(path(u"DBZorvan.mdb"_s)));
+    makeSample({u"--payees"_s, u"300"_s});
+    const QString family = u"نام خانوادگي بي همتا"_s;
+    sql(u"UPDATE ZRVtbKarkonan Set Family = '"_s + family + u"'"_s);
+    const auto bytesOf = [&](const QString &store) {
+        QFile file(path(store));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    };
+    ask(1);
+    EXPECT_TRUE(bytesOf(u"DBZorvan.mdb"_s).contains(family.toUtf8()));
+    EXPECT_FALSE(bytesOf(u"2/DBZorvan.mdb"_s).contains(family.toUtf8()));
+    EXPECT_LT(QFile(path(u"2/DBZorvan.mdb"_s)).size(), QFile(path(u"DBZorvan.mdb"_s)).size());
+}
+
 TEST_F(BranchTest, FolderOfTheRangeIsTakenForABranchWhateverItHolds)
 {
     ASSERT_TRUE(QDir(folder.path()).mkdir(u"2"_s));
