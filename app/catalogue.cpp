@@ -18,6 +18,7 @@
 #include "parties/frmSrcKarkonan.h"
 #include "upkeep/frmMakeShobe.h"
 #include "upkeep/frmUpgradeDatabaseStructureAndUpdateUserRecords.h"
+#include "upkeep/frmUpgradeZRVtbKarkonan.h"
 #include "upkeep/frmUpgrades.h"
 #include "upkeep/frmVersionsFacilities.h"
 
@@ -52,6 +53,7 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
     catalogue.add(u"frmUpgradeDatabaseStructureAndUpdateUserRecords"_s,
                   makeScreen<frmUpgradeDatabaseStructureAndUpdateUserRecords>);
+    catalogue.add(u"frmUpgradeZRVtbKarkonan"_s, makeScreen<frmUpgradeZRVtbKarkonan>);
     catalogue.add(u"frmUpgrades"_s, makeScreen<frmUpgrades>);
     catalogue.add(u"frmMakeShobe"_s, makeScreen<frmMakeShobe>);
     catalogue.add(u"frmVersionsFacilities"_s, makeScreen<frmVersionsFacilities>);

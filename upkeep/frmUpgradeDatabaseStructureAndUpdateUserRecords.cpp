@@ -173,7 +173,8 @@ void frmUpgradeDatabaseStructureAndUpdateUserRecords::repairUserCodes(UpgradeRun
             for (const ExtendedList &list : extendedLists())
                 DeleteZRVtbCodingUserAddedRecords(run, list.list.toString(), list.highest.toString());
         } else {
-            frmUpgradeZRVtbKarkonan dialogue(run, jobs);
+            frmUpgradeZRVtbKarkonan dialogue(m_program);
+            dialogue.serve(run, jobs);
             openModal(dialogue);
         }
         bringBackBanks(run);

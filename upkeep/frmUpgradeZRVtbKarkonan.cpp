@@ -132,17 +132,21 @@ bool isOfBanks(const ExtendedList &list)
 
 } // namespace
 
-frmUpgradeZRVtbKarkonan::frmUpgradeZRVtbKarkonan(UpgradeRun &run, const QStringList &jobs)
-    : Screen(run.program(), u"frmUpgradeZRVtbKarkonan"_s)
-    , m_run(run)
+frmUpgradeZRVtbKarkonan::frmUpgradeZRVtbKarkonan(Program &program)
+    : Screen(program, u"frmUpgradeZRVtbKarkonan"_s)
 {
     setCaption(u"اصلاح رکوردهاي ايجاد شده توسط کاربر در جداول اطلاعات پايه"_s);
-    for (const QString &job : jobs)
-        lstJobs.addItem({job, {}});
     lstJobs.onItemCheck = [this](int row) { lstJobs_ItemCheck(row); };
     cmdDeleteAndUpdate.onClick = [this] { cmdDeleteAndUpdate_Click(); };
     cmdOnlyDelete.onClick = [this] { cmdOnlyDelete_Click(); };
     cmdExit.onClick = [this] { unload(); };
+}
+
+void frmUpgradeZRVtbKarkonan::serve(UpgradeRun &run, const QStringList &jobs)
+{
+    m_run = &run;
+    for (const QString &job : jobs)
+        lstJobs.addItem({job, {}});
 }
 
 void frmUpgradeZRVtbKarkonan::Form_Activate()
@@ -216,9 +220,9 @@ void frmUpgradeZRVtbKarkonan::cmdDeleteAndUpdate_Click()
         return;
     const ExtendedList &list = extendedList(lstJobs.items()[static_cast<size_t>(row)].shown);
     if (isOfBanks(list))
-        UpdateZRVtbKholList(m_run);
+        UpdateZRVtbKholList(*m_run);
     else
-        UpdateZRVtbKarkonan(m_run, list.list.toString(), list.highest.toString(), list.replacement.toString());
+        UpdateZRVtbKarkonan(*m_run, list.list.toString(), list.highest.toString(), list.replacement.toString());
     finishJob(row);
 }
 
@@ -232,7 +236,7 @@ void frmUpgradeZRVtbKarkonan::cmdOnlyDelete_Click()
 void frmUpgradeZRVtbKarkonan::finishJob(int row)
 {
     const ExtendedList &list = extendedList(lstJobs.items()[static_cast<size_t>(row)].shown);
-    DeleteZRVtbCodingUserAddedRecords(m_run, list.list.toString(), list.highest.toString());
+    DeleteZRVtbCodingUserAddedRecords(*m_run, list.list.toString(), list.highest.toString());
     ShowJob(list);
     lstJobs.removeItem(row);
     if (!lstJobs.items().empty())

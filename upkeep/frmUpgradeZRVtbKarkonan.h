@@ -12,8 +12,10 @@ using namespace Qt::Literals::StringLiterals;
 /// shown, and either moved to a safe code or left for the user to mend. It can't be left before every list is done.
 class frmUpgradeZRVtbKarkonan : public Screen {
 public:
-    /// The run has found the jobs, and its routines and its log are used here.
-    frmUpgradeZRVtbKarkonan(UpgradeRun &run, const QStringList &jobs);
+    explicit frmUpgradeZRVtbKarkonan(Program &program);
+
+    /// To be called before it is opened: the jobs that a run has found, which go into its log when they are done.
+    void serve(UpgradeRun &run, const QStringList &jobs);
 
     // clang-format off
     ListBox lstJobs{*this, u"lstJobs"_s, {.checkBoxes = true}};
@@ -40,8 +42,8 @@ private:
     [[nodiscard]] int checkedJob();
     void finishJob(int row);
 
-    UpgradeRun &m_run;
-    QString m_question; ///< of the job shown
+    UpgradeRun *m_run = nullptr; ///< there as long as a job is
+    QString m_question;          ///< of the job shown
 };
 
 } // namespace zrv
