@@ -103,14 +103,20 @@ QString tableLines(const QString &report)
     return lines;
 }
 
-/// Keeps the report of a store with doubts beside the old file; the text that tells of it.
+/// Keeps the report of a store with doubts beside the old file; the text that tells of it. Where it can't be kept the
+/// text says why: the store is taken over by then, and nobody comes by here again.
 QString doubtsOf(const QString &report, const QDir &folder, const QString &oldFile)
 {
     const QString name = QFileInfo(oldFile).completeBaseName() + u".txt"_s;
     const QByteArray utf8 = report.toUtf8();
-    SafeFile file(folder.filePath(name));
-    file.write(utf8.constData(), std::size_t(utf8.size()));
-    file.commit();
+    try {
+        SafeFile file(folder.filePath(name));
+        file.write(utf8.constData(), std::size_t(utf8.size()));
+        file.commit();
+    } catch (const RunTimeError &error) {
+        return u"\r\nدر اطلاعات منتقل شده موارد مشکوک وجود دارد و فهرست آنها ذخيره نگرديد . شرح خطا : "_s
+               + error.description();
+    }
     return u"\r\nدر اطلاعات منتقل شده موارد مشکوک وجود دارد . فهرست آنها در فايل "_s + name
            + u" ذخيره گرديد ، لطفا آنها را بررسي نماييد"_s;
 }

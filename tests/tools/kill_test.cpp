@@ -3,11 +3,13 @@
 
 #include "core/basic/run_time_error.h"
 #include "core/store/connection.h"
+#include "tests/jet_writer/old_stores.h"
 #include "tests/tools/killed_process.h"
 #include "tests/tools/tool_fixture.h"
 #include "tools/sample/dice.h"
 #include "tools/sample/numbers.h"
 #include "tools/zrvstore/backup.h"
+#include "tools/zrvstore/takeover.h"
 
 namespace zrv::storetool {
 namespace {
@@ -149,6 +151,42 @@ TEST_F(KillTest, ACopyInTheMakingHasNoNameYetAndLeavesTheOldOneWhole)
     EXPECT_GT(unfinished, 5) << "too few of the kills hit a copy in the making";
     backup(store, copy, true);
     EXPECT_EQ(QDir(in(u""_s)).entryList(QDir::Files), QStringList{u"copy.mdb"_s});
+}
+
+TEST_F(KillTest, AnOldStoreIsReplacedWhollyOrNotAtAllAndNeverLost)
+{
+    const QByteArray old = jettest::jetFile(jettest::oldestStore(300));
+    const auto bytesOf = [](const QString &path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    int replaced = 0;
+    int left = 0;
+    for (int turn = 0; turn < 40; ++turn) {
+        const QString folder = in(QString::number(turn));
+        const QString store = storeIn(folder);
+        QDir().mkpath(folder);
+        QFile file(store);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(old) == old.size());
+        file.close();
+        ASSERT_TRUE(killDuring(
+            [&](int step) {
+                step == 0 ? void(takeOver(store, folder, false, [](const QString &) {})) : void(::pause());
+            },
+            sample::Dice(4, "moment", quint64(turn)).below(120'000)));
+        const bool isReplaced = bytesOf(store) != old;
+        ++(isReplaced ? replaced : left);
+        if (isReplaced) {
+            EXPECT_EQ(bytesOf(folder + u"/JetDBZorvan.mdb"_s), old) << "after kill " << turn;
+            EXPECT_EQ(Sqlite(store).value(u"SELECT count(*) FROM ZRVtbKarkonan"_s), u"300"_s);
+        } else {
+            (void)takeOver(store, folder, false, [](const QString &) {});
+            EXPECT_EQ(Sqlite(store).value(u"SELECT count(*) FROM ZRVtbKarkonan"_s), u"300"_s);
+        }
+        EXPECT_EQ(QDir(folder).entryList({u"*.new*"_s}, QDir::Files), QStringList());
+    }
+    EXPECT_GT(replaced, 5);
+    EXPECT_GT(left, 5) << "too few of the kills hit a takeover";
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "tests/core/screens/quiet_platform.h"
 #include "tests/print_text.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -121,6 +122,18 @@ TEST_F(OldStoreTest, DoubtsAreKeptBesideTheOldFile)
     QFile report(programFolder() + u"/Jet3DBZorvan.txt"_s);
     ASSERT_TRUE(report.open(QIODevice::ReadOnly));
     EXPECT_EQ(QString::fromUtf8(report.readAll()), first.output);
+}
+
+TEST_F(OldStoreTest, DoubtsThatCanNotBeKeptAreToldWithTheRest)
+{
+    writeStore(m_old);
+    first = {1, u"a: doubt [form]\nthe old file is kept as JetDBZorvan.mdb\n"_s, {}};
+    // A folder in its place: no file can take that name.
+    ASSERT_TRUE(QDir(programFolder()).mkdir(u"JetDBZorvan.txt"_s));
+    EXPECT_EQ(failure(), QString());
+    ASSERT_EQ(boxes.size(), 1);
+    EXPECT_TRUE(boxes[0].contains(u"فايل اصلي با نام JetDBZorvan.mdb"_s));
+    EXPECT_TRUE(boxes[0].contains(u"فهرست آنها ذخيره نگرديد"_s));
 }
 
 } // namespace
