@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Feeds the reader of old stores with files that are anything but sound. An input is either a file, behind a byte of
 // 0xFF, or changes to one of a few sound files: a byte that says which, then for each change three bytes of place and
-// two of what is put there.
+// two of what is put there. From 0x40 on that byte names one of the databases in the folder ZRV_JET_FILES, where there
+// is one.
 
 #include "core/store/schema.h"
 #include "tests/fuzz/fuzz_target.h"
@@ -9,6 +10,9 @@
 #include "tools/jet/refused.h"
 #include "tools/zrvstore/old_rows.h"
 #include "tools/zrvstore/old_store.h"
+
+#include <QDir>
+#include <QFile>
 
 #include <cstdlib>
 #include <map>
@@ -56,11 +60,29 @@ const QByteArray &soundFile(unsigned kind)
     return file;
 }
 
+/// The databases that other programs wrote.
+const std::vector<QByteArray> &foundFiles()
+{
+    static const std::vector<QByteArray> files = [] {
+        std::vector<QByteArray> found;
+        const QDir folder(qEnvironmentVariable("ZRV_JET_FILES", u"/nowhere"_s));
+        for (const QString &name : folder.entryList({u"*.mdb"_s}, QDir::Files, QDir::Name)) {
+            QFile file(folder.filePath(name));
+            if (file.open(QIODevice::ReadOnly) && file.size() > 1)
+                found.push_back(file.readAll());
+        }
+        return found;
+    }();
+    return files;
+}
+
 std::vector<unsigned char> fileOf(const unsigned char *data, std::size_t size)
 {
     if (size == 0 || data[0] == 0xFF)
         return {data + (size > 0 ? 1 : 0), data + size};
-    const QByteArray &sound = soundFile(data[0] & 31U);
+    const std::vector<QByteArray> &found = foundFiles();
+    const bool isFound = data[0] >= 0x40 && !found.empty();
+    const QByteArray &sound = isFound ? found[data[0] % found.size()] : soundFile(data[0] & 31U);
     std::vector<unsigned char> file(sound.begin(), sound.end());
     for (std::size_t at = 1; at + ChangeSize <= size; at += ChangeSize) {
         const std::size_t place =
