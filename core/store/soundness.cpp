@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store/soundness.h"
 
+#include "core/store/foreign_journal.h"
+
 #include <QFile>
 #include <QFileInfo>
 
@@ -42,6 +44,8 @@ Soundness soundnessOf(const QString &path)
 {
     if (const Soundness head = ofTheHead(path); head != Soundness::Sound)
         return head;
+    if (!setForeignJournalAside(path))
+        return Soundness::Unknown;
     sqlite3 *opened = nullptr;
     int code =
         sqlite3_open_v2(path.toUtf8().constData(), &opened, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX, nullptr);

@@ -3,6 +3,7 @@
 
 #include "core/store/code_table.h"
 #include "core/store/dialect/sql_text.h"
+#include "core/store/foreign_journal.h"
 #include "core/store/sql_functions.h"
 #include "core/store/store_error.h"
 #include "core/store/store_failure.h"
@@ -65,6 +66,10 @@ StoreFile::StoreFile(QString path)
     if (!head.isStore)
         throw RunTimeError(store_error::General,
                            u"فايل بانک اطلاعاتي قابل خواندن نيست . فايل پشتيبان را جايگزين نماييد : "_s + m_path);
+    if (!setForeignJournalAside(m_path))
+        throw RunTimeError(store_error::General,
+                           u"در کنار بانک اطلاعاتي باقيمانده عمليات ناتمام فايل ديگري وجود دارد . آنرا حذف نماييد : "_s
+                               + m_path + u"-journal"_s);
     const int opened = sqlite3_open_v2(m_path.toUtf8().constData(), &m_database,
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
     try {

@@ -10,6 +10,7 @@
 #include "upkeep/base_data_steps.h"
 #include "upkeep/column_steps.h"
 #include "upkeep/frmUpgradeDatabaseStructureAndUpdateUserRecords.h"
+#include "upkeep/user_codes.h"
 
 #include <QElapsedTimer>
 
@@ -115,8 +116,20 @@ TEST_F(UpgradeTest, StoreThatIsCurrentLogsThatAllWasDoneBeforeAndIsRenumberedAga
     // Every column but none of the fillings, which a column that was there does not need.
     EXPECT_EQ(log().filter(u" قبلا به جدول ("_s).size() + log().filter(u" قبلا از جدول ("_s).size(), 22);
     EXPECT_EQ(log().filter(u"مقداردهي گرديد"_s).size(), 0);
+    // So are the rows of the lists, but for those that the run itself deletes first.
+    EXPECT_EQ(log().filter(u" قبلا به ليست ("_s).size(), 13);
+    EXPECT_EQ(log().filter(u" اضافه گرديد"_s).size(), 14);
     EXPECT_EQ(rows(u"SELECT CodeShobe, ShobeName FROM ZRVtbKarfarma"_s), QStringList{u"1|دفتر مرکزي"_s});
     EXPECT_EQ(rows(u"SELECT MelliCode FROM ZRVtbKarkonan WHERE ShakhsMoafCode <> '5'"_s), QStringList());
+}
+
+TEST_F(UpgradeTest, AJobsListIsReadFromTheLastTwoCharactersOfItsLine)
+{
+    for (const ExtendedList &list : extendedLists()) {
+        const QString line = list.job + list.item;
+        EXPECT_EQ(list.item.size(), 2);
+        EXPECT_EQ(&extendedList(line), &list) << line.toStdString();
+    }
 }
 
 TEST_F(UpgradeTest, FirstRowThatIsThereAlreadyIsToldInABoxAndTheOthersAreNot)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/zrvstore/database.h"
 
+#include "core/store/foreign_journal.h"
 #include "tools/zrvstore/failure.h"
 
 #include <QFile>
@@ -39,6 +40,8 @@ Database::Database(QString path)
     : m_path(std::move(path))
 {
     refuseOtherFiles(m_path);
+    if (!setForeignJournalAside(m_path))
+        throw Failure(m_path + u"-journal is the rest of another file of that name: move it away first"_s);
     try {
         if (sqlite3_open_v2(QFile::encodeName(m_path).constData(), &m_database,
                             SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr)
