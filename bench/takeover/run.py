@@ -7,7 +7,8 @@ usage: run.py [--build DIR] [--work DIR] [--payees N] [--rounds R]
 Has zrvjet write the database of N payees and two months into the work folder (kept there for the next run), then lets
 the two programs work in turn, R rounds: zrvstore reads the database, checks every row and makes a store of them;
 `sqlite3` imports the same rows from text files into tables of the same shape. Prints the medians' ratio, of the wall
-clock and of the processor, and the processor's seconds for whoever waits at the program's first start.
+clock and of the processor, and the processor's seconds for whoever waits at the program's first start. An eighth of a
+sample's payees have left before the months, so 22900 of them make some 40000 salary rows.
 """
 import argparse
 import os
@@ -60,7 +61,7 @@ def main():
     ap = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     ap.add_argument("--build", default=ROOT / "build/bench", type=Path)
     ap.add_argument("--work", type=Path)
-    ap.add_argument("--payees", type=int, default=20_000)
+    ap.add_argument("--payees", type=int, default=22_900)
     ap.add_argument("--rounds", type=int, default=7)
     a = ap.parse_args()
     work = (a.work or a.build / "takeover") / str(a.payees)
