@@ -1,96 +1,145 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/check_report.h"
 
+#include "core/basic/run_time_error.h"
+#include "files/report_measure.h"
+
 #include <algorithm>
 #include <iterator>
 #include <utility>
 
 namespace zrv {
+
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 constexpr std::size_t MostMarks = 65536;
+
+const QString LineEnd = u"\r\n"_s;
+
+/// The line of the report that tells an error which is met in this one.
+qint64 errorLine(qint64 line, const Finding &finding)
+{
+    return line + (finding.kind == FindingKind::EmptyFile ? 1 : 0);
+}
 
 /// Thrown inside this file when what was sought is found: a line of the file may have millions of fields behind it.
 struct Enough {};
 
 } // namespace
 
-/// Counts lines and letters of the report.
-class CheckReport::Measure : public ReportSink {
+/// Hears of the file itself; its lines are measured apart from their check.
+class CheckReport::FileEvents : public CheckEvents {
 public:
-    explicit Measure(const Mark &from = {})
-        : m_lines(from.line)
-        , m_length(from.length)
+    explicit FileEvents(ReportWriter &writer)
+        : m_writer(writer)
     {
     }
 
-    void add(QStringView piece) override
+    [[nodiscard]] bool wantsErrorsAlone() const override { return true; }
+    void finding(const Finding &finding) override
     {
-        m_length += piece.size();
-        m_isInLine = m_isInLine || !piece.isEmpty();
+        switch (finding.kind) {
+        case FindingKind::EmptyFile:
+        case FindingKind::NoFile:
+        case FindingKind::WrongName:
+        case FindingKind::TooFewRecords:
+            m_writer.finding(finding);
+            break;
+        default:
+            break;
+        }
     }
-    void endLine() override
-    {
-        m_length += 2;
-        ++m_lines;
-        m_isInLine = false;
-    }
-
-    [[nodiscard]] qint64 lines() const { return m_lines; }
-    [[nodiscard]] qint64 length() const { return m_length; }
-    [[nodiscard]] bool isInLine() const { return m_isInLine; }
+    void started() override { m_writer.started(); }
+    void nameAccepted() override { m_writer.nameAccepted(); }
+    void finished() override { m_writer.finished(); }
 
 private:
-    qint64 m_lines;
-    qint64 m_length;
-    bool m_isInLine = false;
+    ReportWriter &m_writer;
 };
 
-/// Keeps some lines of the report.
+/// Keeps some lines of the report, and which of them tell an error.
 class CheckReport::Excerpt : public ReportSink {
 public:
+    /// From `first` on, as many as up to `end`, and then on to so many as are cheap to have.
     Excerpt(qint64 line, qint64 first, qint64 end)
         : m_line(line)
-        , m_first(first)
         , m_end(end)
+        , m_kept{.first = first, .begins = {0}}
     {
     }
 
     void add(QStringView piece) override
     {
-        if (m_line >= m_first)
-            m_text += piece;
+        if (m_line >= m_kept.first)
+            m_kept.text += piece;
     }
     void endLine() override
     {
-        if (++m_line == m_end)
+        if (m_line++ < m_kept.first)
+            return;
+        m_kept.text += LineEnd;
+        m_kept.begins.push_back(m_kept.text.size());
+        if (m_line >= m_end && (m_line - m_kept.first >= CheapLines || m_kept.text.size() >= CheapLetters))
             throw Enough();
-        if (m_line > m_first)
-            m_text += u"\r\n";
+    }
+    /// A piece without a line end says what kind of line it is, so the line before the first is made as well.
+    [[nodiscard]] bool wantsText() const override { return m_line + 2 >= m_kept.first; }
+
+    [[nodiscard]] qint64 line() const { return m_line; }
+    void addError(qint64 line)
+    {
+        if (line >= m_kept.first)
+            m_kept.errors.push_back(line);
+    }
+    [[nodiscard]] Window take()
+    {
+        if (m_kept.begins.back() < m_kept.text.size())
+            m_kept.begins.push_back(m_kept.text.size());
+        return std::move(m_kept);
     }
 
-    [[nodiscard]] QString text() const { return m_text; }
-
 private:
-    QString m_text;
+    static constexpr qint64 CheapLines = 256;
+    static constexpr qint64 CheapLetters = 65536;
+
     qint64 m_line;
-    qint64 m_first;
     qint64 m_end;
+    Window m_kept;
 };
 
-/// Makes no text, and stops at the first error behind a line.
-class CheckReport::ErrorSearch : public ReportWriter {
+class CheckReport::ExcerptWriter : public ReportWriter {
 public:
-    ErrorSearch(const StructureCheck &check, const ReportClock &clock, Measure &measure, qint64 behind)
-        : ReportWriter(check.rules(), check.options(), clock, measure)
-        , m_measure(measure)
+    ExcerptWriter(const StructureCheck &check, const ReportClock &clock, Excerpt &excerpt)
+        : ReportWriter(check.rules(), check.options(), clock, excerpt)
+        , m_excerpt(excerpt)
+    {
+    }
+
+    void finding(const Finding &finding) override
+    {
+        m_excerpt.addError(errorLine(m_excerpt.line(), finding));
+        ReportWriter::finding(finding);
+    }
+
+private:
+    Excerpt &m_excerpt;
+};
+
+/// Counts the lines and stops at the first error behind one.
+class CheckReport::ErrorSearch : private ReportSink, public ReportWriter {
+public:
+    ErrorSearch(const StructureCheck &check, const ReportClock &clock, qint64 line, qint64 behind)
+        : ReportWriter(check.rules(), check.options(), clock, static_cast<ReportSink &>(*this))
+        , m_line(line)
         , m_behind(behind)
     {
     }
 
     void finding(const Finding &finding) override
     {
-        const qint64 line = m_measure.lines() + (finding.kind == FindingKind::EmptyFile ? 1 : 0);
+        const qint64 line = errorLine(m_line, finding);
         if (line > m_behind) {
             m_found = line;
             throw Enough();
@@ -101,20 +150,25 @@ public:
     [[nodiscard]] qint64 found() const { return m_found; }
 
 private:
-    Measure &m_measure;
+    void add(QStringView) override {}
+    void endLine() override { ++m_line; }
+    [[nodiscard]] bool wantsText() const override { return false; }
+
+    qint64 m_line;
     qint64 m_behind;
     qint64 m_found = -1;
 };
 
 CheckReport::CheckReport(FileKind kind, const QString &path, const CheckOptions &options, ReportClock clock)
-    : m_check(rulesOf(kind), path, options)
+    : m_path(path)
+    , m_check(rulesOf(kind), path, options)
     , m_clock(std::move(clock))
 {
 }
 
 CheckOutcome CheckReport::run(const BeforeLine &beforeLine)
 {
-    Measure measure;
+    ReportMeasure measure;
     bool isStarted = false;
     const ReportClock clock = [&] {
         QString now = m_clock();
@@ -122,17 +176,51 @@ CheckOutcome CheckReport::run(const BeforeLine &beforeLine)
         return now;
     };
     ReportWriter writer(m_check.rules(), m_check.options(), clock, measure);
-    m_outcome = m_check.run(writer, [&](const CheckPlace &place) {
-        if (place.state.records % m_stride == 0)
-            addMark({place, measure.lines(), measure.length()});
-        return !beforeLine || beforeLine(place);
-    });
+    const bool passesOver = m_check.rules().kind == FileKind::Wh && !m_check.options().firstTwoLines;
+    if (passesOver)
+        runPassingOver(writer, measure, beforeLine);
+    else
+        m_outcome = m_check.run(writer, [&](const CheckPlace &place) {
+            addMark(place, measure);
+            return !beforeLine || beforeLine(place);
+        });
     m_end = {measure.lines() + (measure.isInLine() ? 1 : 0), measure.length()};
     return m_outcome;
 }
 
-void CheckReport::addMark(const Mark &mark)
+/// Most lines of a salary list have nothing wrong in them: these are measured without being told of.
+void CheckReport::runPassingOver(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine)
 {
+    FileEvents events(writer);
+    ReportGauge gauge(m_check.rules(), m_check.options(), m_path, measure,
+                      [&](const CheckPlace &place) { addMark(place, measure); });
+    m_outcome = m_check.run(events, [&](const CheckPlace &place) {
+        gauge.passTo(place);
+        const bool goesOn = !beforeLine || beforeLine(place);
+        if (goesOn)
+            gauge.measureLine(place);
+        return goesOn;
+    });
+    passRest(gauge);
+}
+
+/// The lines behind the last one that was looked at. The file may be gone by now.
+void CheckReport::passRest(ReportGauge &gauge)
+{
+    try {
+        gauge.passTo({.offset = 0, .state = {.records = m_outcome.records, .errors = m_outcome.errors}});
+    } catch (const RunTimeError &failure) {
+        m_outcome.end = CheckEnd::Failed;
+        m_outcome.failure = failure.number();
+        m_outcome.description = failure.description();
+        m_outcome.showsReport = m_check.rules().kind == FileKind::Wk;
+    }
+}
+
+void CheckReport::addMark(const CheckPlace &place, const ReportMeasure &measure)
+{
+    if (place.state.records % m_stride != 0)
+        return;
     if (m_marks.size() == MostMarks) {
         // Every other mark goes; the one to come, the 65,537th, stays in the new measure.
         m_stride *= 2;
@@ -140,7 +228,7 @@ void CheckReport::addMark(const Mark &mark)
             m_marks[i] = m_marks[2 * i];
         m_marks.resize(MostMarks / 2);
     }
-    m_marks.push_back(mark);
+    m_marks.push_back({place, measure.lines(), measure.length()});
 }
 
 /// Makes the report from a mark on, from its very beginning with the first one, up to where the run ended.
@@ -174,28 +262,59 @@ QString CheckReport::lines(qint64 first, qint64 count)
     const qint64 end = std::min(m_end.lines, first + count);
     if (first < 0 || first >= end)
         return {};
+    m_check.expectUnchanged();
+    if (first < m_window.first || end > m_window.end())
+        makeWindow(first, end);
+    const auto at = [this](qint64 line) { return m_window.begins.at(static_cast<std::size_t>(line - m_window.first)); };
+    // A file that lies elsewhere by now may have become shorter.
+    if (end > m_window.end())
+        return m_window.text;
+    QStringView text = QStringView(m_window.text).sliced(at(first), at(end) - at(first));
+    if (text.endsWith(LineEnd))
+        text.chop(LineEnd.size());
+    return text.toString();
+}
+
+void CheckReport::makeWindow(qint64 first, qint64 end)
+{
+    m_window = {};
     const auto from = markBefore(first);
     bool isStarted = !m_marks.empty() && from != m_marks.begin();
     const ReportClock clock = [&] { return std::exchange(isStarted, true) ? m_finished : m_started; };
     Excerpt excerpt(isStarted ? from->line : 0, first, end);
-    ReportWriter writer(m_check.rules(), m_check.options(), clock, excerpt);
+    ExcerptWriter writer(m_check, clock, excerpt);
     try {
         make(writer, from, {});
     } catch (const Enough &) {
-        return excerpt.text();
+        m_window = excerpt.take();
+        return;
     }
-    return excerpt.text();
+    m_window = excerpt.take();
 }
 
 qint64 CheckReport::nextError(qint64 line)
+{
+    m_check.expectUnchanged();
+    if (line + 1 >= m_window.first && line + 1 < m_window.end()) {
+        const auto next = std::ranges::upper_bound(m_window.errors, line);
+        if (next != m_window.errors.end())
+            return *next;
+        line = m_window.end() - 1;
+    }
+    const bool isKnown = m_sought && line >= m_sought->behind && (m_sought->found < 0 || line < m_sought->found);
+    if (!isKnown)
+        m_sought = {.behind = line, .found = findError(line)};
+    return m_sought->found;
+}
+
+qint64 CheckReport::findError(qint64 line)
 {
     const ReportClock clock = [this] { return m_started; };
     auto from = markBefore(line + 1);
     for (;;) {
         const bool isFirst = m_marks.empty() || from == m_marks.begin();
         const auto next = m_marks.empty() ? from : std::next(from);
-        Measure measure(isFirst ? Mark() : *from);
-        ErrorSearch search(m_check, clock, measure, line);
+        ErrorSearch search(m_check, clock, isFirst ? 0 : from->line, line);
         try {
             make(search, from,
                  [&](const CheckPlace &place) { return next == m_marks.end() || place.offset != next->place.offset; });

@@ -11,6 +11,9 @@
 
 namespace zrv {
 
+class ReportGauge;
+class ReportMeasure;
+
 /// Memory: some 6 MB at most, whatever the file's length. To be used from one thread. Keeps the file open; once somebody
 /// writes to the file, whatever makes text of it raises DeviceIo.
 class CheckReport {
@@ -47,14 +50,32 @@ private:
         qint64 lines = 0;
         qint64 length = 0;
     };
-    class Measure;
+    /// Lines that were asked for last, and some behind them.
+    struct Window {
+        qint64 first = 0;
+        QString text;
+        std::vector<qsizetype> begins; ///< of each line in the text, and of what would follow
+        std::vector<qint64> errors;    ///< lines that tell one
+        [[nodiscard]] qint64 end() const { return first + static_cast<qint64>(begins.size()) - 1; }
+    };
+    struct Sought {
+        qint64 behind = -1;
+        qint64 found = -1;
+    };
+    class FileEvents;
     class Excerpt;
+    class ExcerptWriter;
     class ErrorSearch;
 
-    void addMark(const Mark &mark);
+    void runPassingOver(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine);
+    void addMark(const CheckPlace &place, const ReportMeasure &measure);
+    void passRest(ReportGauge &gauge);
     void make(ReportWriter &writer, const std::vector<Mark>::const_iterator &from, const BeforeLine &beforeLine);
     [[nodiscard]] std::vector<Mark>::const_iterator markBefore(qint64 line) const;
+    void makeWindow(qint64 first, qint64 end);
+    [[nodiscard]] qint64 findError(qint64 line);
 
+    QString m_path;
     StructureCheck m_check;
     QString m_started;
     QString m_finished;
@@ -63,6 +84,8 @@ private:
     std::vector<Mark> m_marks;
     qint64 m_stride = 1; ///< a mark for each so many lines of the file
     End m_end;
+    Window m_window;
+    std::optional<Sought> m_sought; ///< the error search before this one
 };
 
 } // namespace zrv

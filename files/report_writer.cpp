@@ -23,6 +23,19 @@ QStringView listOf(FileKind kind, const Field &field)
     return isSummary ? report_words::OfSummaryList : report_words::OfSalaryList;
 }
 
+/// The words of a wrong number of fields are of two lines; those of an empty file begin on the next one.
+int linesOf(FindingKind kind)
+{
+    switch (kind) {
+    case FindingKind::FieldCount:
+    case FindingKind::OtherVersion:
+    case FindingKind::EmptyFile:
+        return 2;
+    default:
+        return 1;
+    }
+}
+
 } // namespace
 
 ReportWriter::ReportWriter(const FileRules &rules, const CheckOptions &options, const ReportClock &clock,
@@ -37,6 +50,11 @@ ReportWriter::ReportWriter(const FileRules &rules, const CheckOptions &options, 
 
 void ReportWriter::finding(const Finding &finding)
 {
+    if (!m_sink.wantsText()) {
+        for (int line = linesOf(finding.kind); line > 0; --line)
+            m_sink.endLine();
+        return;
+    }
     switch (finding.kind) {
     case FindingKind::EmptyFile:
         m_sink.endLine();
@@ -115,6 +133,8 @@ void ReportWriter::passed(QStringView words)
 
 void ReportWriter::surplusBegins(qint64 line, int number)
 {
+    if (!m_sink.wantsText())
+        return m_sink.endLine();
     addFixed(report_words::Field);
     add(number);
     addFixed(report_words::SurplusOfRecord);
@@ -147,7 +167,7 @@ void ReportWriter::addFixedLine(QStringView piece)
     m_sink.endLine();
 }
 
-/// The words of a wrong number of fields are of two lines.
+/// Some words are of two lines.
 void ReportWriter::addWords(QStringView words)
 {
     for (qsizetype end = words.indexOf(LineEnd); end >= 0; end = words.indexOf(LineEnd)) {

@@ -23,6 +23,8 @@ public:
     virtual void addFixed(QStringView piece) { add(piece); }
     /// CR LF.
     virtual void endLine() = 0;
+    /// False while only the line ends count: costly pieces may be left out then.
+    [[nodiscard]] virtual bool wantsText() const { return true; }
 };
 
 /// Today's Solar Hijri date, " - " and the time of day, as "1389/03/03 - 10:30:00".

@@ -67,11 +67,16 @@ CheckOutcome StructureCheck::run(CheckEvents &events, const BeforeLine &beforeLi
     });
 }
 
-CheckOutcome StructureCheck::runFrom(const CheckPlace &place, CheckEvents &events, const BeforeLine &beforeLine)
+void StructureCheck::expectUnchanged() const
 {
-    if (m_reader->hasChanged())
+    if (m_reader && m_reader->hasChanged())
         throw RunTimeError(error::DeviceIo,
                            u"فايل پس از کنترل تغيير کرده است. لطفا دوباره آن را کنترل نماييد:\n"_s + m_path);
+}
+
+CheckOutcome StructureCheck::runFrom(const CheckPlace &place, CheckEvents &events, const BeforeLine &beforeLine)
+{
+    expectUnchanged();
     return guarded([&] { return walk(place, events, beforeLine); });
 }
 

@@ -66,6 +66,9 @@ public:
     /// Checks again from a place that run() came through. Raises DeviceIo if somebody wrote to the file since.
     CheckOutcome runFrom(const CheckPlace &place, CheckEvents &events, const BeforeLine &beforeLine = {});
 
+    /// Raises DeviceIo if somebody wrote to the file since run().
+    void expectUnchanged() const;
+
     [[nodiscard]] const FileRules &rules() const { return m_rules; }
     [[nodiscard]] const CheckOptions &options() const { return m_options; }
     /// In bytes; 0 before a file was opened.
