@@ -152,7 +152,7 @@ TEST_P(DamagedTest, IsRefusedOrToldOrRight)
         if (end == End::WrongUnnoticed)
             expectFlippedLetters(variant);
     }
-    EXPECT_LE(ends[End::WrongUnnoticed], 3);
+    EXPECT_LE(ends[End::WrongUnnoticed], 2);
     RecordProperty("refused", ends[End::Refused]);
     RecordProperty("rightWithDoubts", ends[End::RightWithDoubts]);
     RecordProperty("wrongWithDoubts", ends[End::WrongWithDoubts]);

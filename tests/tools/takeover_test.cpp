@@ -331,7 +331,10 @@ TEST(LettersTest, TheWorstLetterOfATextCounts)
     EXPECT_EQ(lettersOf({}), Letters::Sound);
     EXPECT_EQ(lettersOf(u"تهران ‌ «10» ×÷ ٪ é"), Letters::OldCodePage);
     EXPECT_EQ(lettersOf(u"تهران ‌ «10» ×÷ ٪ ﷼ ﻻ"), Letters::Sound);
+    EXPECT_EQ(lettersOf(u"مؤمن ئاوات شكيبا كُوچهٔ نگینِ ۱۸ ٣ ، ؛ ؟ ۀ ڤ ە"), Letters::Sound);
     EXPECT_EQ(lettersOf(u"я"), Letters::Odd);
+    EXPECT_EQ(lettersOf(u"\u065D"), Letters::Odd);
+    EXPECT_EQ(lettersOf(u"\u0601"), Letters::Odd);
     EXPECT_EQ(lettersOf(u"😀"), Letters::Odd);
     EXPECT_EQ(lettersOf(u"\u0090"), Letters::OldCodePage);
     EXPECT_EQ(lettersOf(u"я é\t"), Letters::Damaged);

@@ -394,7 +394,7 @@ TEST_F(UpgradeTest, KillInsideAStatementLeavesACopyThatIsWholeAndAStoreThatRecov
     whole.start();
     run();
     const auto length = int(whole.nsecsElapsed() / 1000);
-    constexpr int Kills = 60;
+    constexpr int Kills = 40;
     int inside = 0;
     for (int kill = 0; kill < Kills; ++kill) {
         SCOPED_TRACE(kill);

@@ -35,7 +35,14 @@ constexpr Range Ranges[] = {
     {0x00D8, 0x00F6, Letters::OldCodePage},
     {0x00F7, 0x00F7, Letters::Sound},       // divided by
     {0x00F8, 0x00FF, Letters::OldCodePage},
-    {0x0600, 0x06FF, Letters::Sound},
+    {0x060C, 0x060C, Letters::Sound},       // the comma
+    {0x061B, 0x061B, Letters::Sound},
+    {0x061F, 0x061F, Letters::Sound},
+    {0x0621, 0x063A, Letters::Sound},
+    {0x0640, 0x0655, Letters::Sound},       // letters, and the vowels above and below them
+    {0x0660, 0x066C, Letters::Sound},       // digits and their signs
+    {0x0670, 0x06D5, Letters::Sound},
+    {0x06EE, 0x06FF, Letters::Sound},
     {0x200B, 0x2027, Letters::Sound},       // joiners, direction marks, dashes, quotation marks
     {0x202A, 0x205E, Letters::Sound},
     {0x2066, 0x2069, Letters::Sound},
