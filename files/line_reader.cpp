@@ -16,8 +16,9 @@
 namespace zrv {
 namespace {
 
-constexpr std::size_t MostUnits = 16777216; // of a line, with its end
-constexpr qint64 BehindStop = 4096;         // bytes read beyond the stop at once, for the rest of the last line
+constexpr std::size_t MostUnits = 16777216;
+constexpr std::size_t MostUnitsOfAnother = 262144;
+constexpr qint64 BehindStop = 4096; // bytes read beyond the stop at once, for the rest of the last line
 
 static_assert(Q_BYTE_ORDER == Q_LITTLE_ENDIAN, "the files are little-endian, and so is what is read into memory");
 
@@ -50,6 +51,7 @@ qint32 openingFailure(int cause, const QString &path)
 LineReader::LineReader(const QString &path, std::size_t blockUnits)
     : m_path(path)
     , m_blockUnits(blockUnits)
+    , m_mostUnits(MostUnits)
 {
     // Without O_NONBLOCK a pipe would keep us waiting for whoever writes into it.
     m_file = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
@@ -72,6 +74,7 @@ LineReader::LineReader(const LineReader &other, int file)
     , m_first(other.m_first)
     , m_end(other.m_end)
     , m_blockUnits(other.m_blockUnits)
+    , m_mostUnits(MostUnitsOfAnother)
 {
     seek(m_first);
 }
@@ -179,7 +182,7 @@ bool LineReader::fill()
     }
     m_scanned = m_used;
     if (m_used == m_block.size()) {
-        if (m_used >= MostUnits)
+        if (m_used >= m_mostUnits)
             fail(error::OutOfMemory, u"يکي از خطوط فايل بيش از 16 ميليون حرف دارد و فايل حقوق يا خلاصه ليست نيست");
         m_block.resize(std::max(m_blockUnits, m_block.size() * 2));
     }

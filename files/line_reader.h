@@ -65,7 +65,8 @@ public:
     /// Whether somebody wrote to the file since it was opened.
     [[nodiscard]] bool hasChanged() const;
 
-    /// Another reader of the file as it was opened, for another thread.
+    /// Another reader of the file as it was opened, for another thread. It refuses lines that are far longer than any
+    /// good one.
     [[nodiscard]] std::unique_ptr<LineReader> another() const;
 
 private:
@@ -85,6 +86,7 @@ private:
     qint64 m_end = 0;   ///< byte behind the last whole letter
 
     std::size_t m_blockUnits;
+    std::size_t m_mostUnits; ///< of a line, with its end
     std::vector<char16_t> m_block;
     std::size_t m_begin = 0;   ///< of what was not given yet
     std::size_t m_scanned = 0; ///< no line ends before it

@@ -1,49 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "files/check_catalogue.h"
 #include "files/check_words.h"
-#include "tests/files/check_fixture.h"
+#include "tests/tools/zrvcheck_fixture.h"
 #include "tools/zrvcheck/check_files.h"
 #include "tools/zrvcheck/file_list.h"
 #include "tools/zrvcheck/finding_lines.h"
 
-#include <QDir>
-#include <QProcess>
-
 #include <set>
-
-#ifndef ZRVCHECK
-#define ZRVCHECK "zrvcheck" // the one on the path, where a test isn't told of another
-#endif
 
 namespace zrv::checktool {
 namespace {
-
-class ZrvCheck : public StructureCheckTest {
-protected:
-    struct Run {
-        int status = -1;
-        QString out;
-        QString err;
-    };
-
-    Run zrvcheck(const QStringList &words)
-    {
-        QProcess process;
-        process.setWorkingDirectory(m_folder.path());
-        process.start(QStringLiteral(ZRVCHECK), words);
-        EXPECT_TRUE(process.waitForFinished());
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-                QString::fromUtf8(process.readAllStandardError())};
-    }
-
-    void writeIn(const QString &folder, const QByteArray &bytes, const QString &name)
-    {
-        ASSERT_TRUE(QDir(m_folder.path()).mkpath(folder));
-        write(bytes, folder + u'/' + name);
-    }
-
-    const QByteArray m_good = utf16File({payerLine(), payeeLine()});
-};
 
 TEST_F(ZrvCheck, AGoodFileIsARowOfTheTableAndNothingElse)
 {
