@@ -61,63 +61,63 @@ void ReportWriter::finding(const Finding &finding)
         [[fallthrough]];
     case FindingKind::NoFile:
     case FindingKind::WrongName:
-        addFixed(report_words::ErrorOfFile);
+        add(report_words::ErrorOfFile);
         break;
     default:
-        addFixed(report_words::Error);
+        add(report_words::Error);
     }
     add(finding.number);
-    addFixed(report_words::NumberEnds);
+    add(report_words::NumberEnds);
     addWords(findingWords(m_rules, finding, m_options.programVersion));
 }
 
 void ReportWriter::started()
 {
-    addFixed(m_words.starting);
-    addFixed(report_words::StartTime);
+    add(m_words.starting);
+    add(report_words::StartTime);
     add(m_clock());
-    addFixedLine(report_words::TimeEnds);
+    addLine(report_words::TimeEnds);
 }
 
 void ReportWriter::nameAccepted()
 {
-    addFixedLine(m_words.rightName);
-    addFixedLine(m_words.reading);
+    addLine(m_words.rightName);
+    addLine(m_words.reading);
 }
 
 void ReportWriter::lineBegins(qint64 line)
 {
-    addFixed(report_words::Line);
+    add(report_words::Line);
     add(line);
-    addFixedLine(m_words.lineOfFile);
-    addFixed(report_words::Counting);
+    addLine(m_words.lineOfFile);
+    add(report_words::Counting);
     add(line);
-    addFixedLine(report_words::CountingOfFile);
+    addLine(report_words::CountingOfFile);
 }
 
 void ReportWriter::countPassed(qint64 line)
 {
     if (m_options.onlyErrors)
         return;
-    addFixed(report_words::CountPassed);
+    add(report_words::CountPassed);
     add(line);
-    addFixedLine(report_words::CountPassedEnds);
+    addLine(report_words::CountPassedEnds);
 }
 
 void ReportWriter::fieldBegins(const Field &field)
 {
-    addFixed(report_words::Field);
+    add(report_words::Field);
     add(field.number);
-    addFixed(field.label);
+    add(field.label);
 }
 
 void ReportWriter::fieldRead(qint64 line, const Field &field, QStringView value)
 {
-    addFixed(report_words::Value);
+    add(report_words::Value);
     add(value);
-    addFixed(report_words::ValueEnds);
+    add(report_words::ValueEnds);
     add(line);
-    addFixedLine(listOf(m_rules.kind, field));
+    addLine(listOf(m_rules.kind, field));
 }
 
 void ReportWriter::fieldMissing()
@@ -128,26 +128,26 @@ void ReportWriter::fieldMissing()
 void ReportWriter::passed(QStringView words)
 {
     if (!m_options.onlyErrors)
-        addFixedLine(words);
+        addLine(words);
 }
 
 void ReportWriter::surplusBegins(qint64 line, int number)
 {
     if (!m_sink.wantsText())
         return m_sink.endLine();
-    addFixed(report_words::Field);
+    add(report_words::Field);
     add(number);
-    addFixed(report_words::SurplusOfRecord);
+    add(report_words::SurplusOfRecord);
     add(line);
-    addFixedLine(report_words::OfSalaryList);
+    addLine(report_words::OfSalaryList);
 }
 
 void ReportWriter::finished()
 {
-    addFixed(m_words.finishing);
-    addFixed(report_words::EndTime);
+    add(m_words.finishing);
+    add(report_words::EndTime);
     add(m_clock());
-    addFixedLine(report_words::TimeEnds);
+    addLine(report_words::TimeEnds);
 }
 
 void ReportWriter::add(qint64 number)
@@ -161,9 +161,9 @@ void ReportWriter::add(qint64 number)
     m_sink.add(QStringView(first, digits.end()));
 }
 
-void ReportWriter::addFixedLine(QStringView piece)
+void ReportWriter::addLine(QStringView piece)
 {
-    m_sink.addFixed(piece);
+    m_sink.add(piece);
     m_sink.endLine();
 }
 
@@ -171,12 +171,10 @@ void ReportWriter::addFixedLine(QStringView piece)
 void ReportWriter::addWords(QStringView words)
 {
     for (qsizetype end = words.indexOf(LineEnd); end >= 0; end = words.indexOf(LineEnd)) {
-        add(words.first(end));
-        m_sink.endLine();
+        addLine(words.first(end));
         words = words.sliced(end + LineEnd.size());
     }
-    add(words);
-    m_sink.endLine();
+    addLine(words);
 }
 
 ReportLog::ReportLog(SafeFile &file)

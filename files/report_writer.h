@@ -19,8 +19,6 @@ public:
 
     /// No piece has a CR LF in it.
     virtual void add(QStringView piece) = 0;
-    /// Likewise a piece that stays as it is for as long as the program runs: what is made of it can be kept.
-    virtual void addFixed(QStringView piece) { add(piece); }
     /// CR LF.
     virtual void endLine() = 0;
     /// False while only the line ends count: costly pieces may be left out then.
@@ -50,8 +48,7 @@ public:
 private:
     void add(QStringView piece) { m_sink.add(piece); }
     void add(qint64 number);
-    void addFixed(QStringView piece) { m_sink.addFixed(piece); }
-    void addFixedLine(QStringView piece);
+    void addLine(QStringView piece);
     void addWords(QStringView words);
 
     const FileRules &m_rules;

@@ -90,6 +90,26 @@ TEST_F(ZrvCheck, TheReportIsTheScreens)
     EXPECT_TRUE(made[0].startsWith(u" - در حال کنترل نام فايل ليست حقوق ... (تاريخ و زمان شروع"_s));
 }
 
+TEST_F(ZrvCheck, TheReportHasEveryLetterOfAFileAndAllThatPassed)
+{
+    const QString letters = u"a\u00A0\u07FF\u0800ع\uFFFD😀"_s;
+    const QString path = write(utf16File({payerLine(), payeeLine().with(2, letters).with(3, u""_s), foreignPayeeLine(),
+                                          payeeLine().with(14, u"0"_s).with(15, letters).and_(letters),
+                                          payeeLine().cutTo(9), payeeLine().with(2, QString(QChar(0xD800)))}),
+                               u"WH138902.TXT"_s);
+    check(FileKind::Wh, path);
+    QStringList made = zrvcheck({u"--report"_s, u"-"_s, path}).out.split(u"\r\n"_s);
+    ASSERT_EQ(made.size(), report->lineCount() + 1);
+    // Half a surrogate has no form in UTF-8; a question mark stands for it.
+    const QString expected = report->lines(1, report->lineCount() - 2).replace(QChar(0xD800), u'?');
+    EXPECT_EQ(made.mid(1, made.size() - 3).join(u"\r\n"_s), expected);
+
+    const QString summary = write(utf16File({chequeLine().with(23, letters), u"x,"_s}), u"WK138902.TXT"_s);
+    check(FileKind::Wk, summary);
+    made = zrvcheck({u"--report"_s, u"-"_s, summary}).out.split(u"\r\n"_s);
+    EXPECT_EQ(made.mid(1, made.size() - 3).join(u"\r\n"_s), report->lines(1, report->lineCount() - 2));
+}
+
 TEST_F(ZrvCheck, ReportsOfSeveralFilesFollowEachOtherInAFile)
 {
     write(m_good, u"WH138902.TXT"_s);
@@ -211,10 +231,11 @@ public:
     }
     void finding(const Finding &finding) override
     {
-        QByteArray line;
+        std::string line;
         m_lines.append(finding, line);
-        EXPECT_EQ(QString::fromUtf8(line), u"f:%1:%2: %3: "_s.arg(finding.line).arg(finding.field).arg(finding.number)
-                                               + findingLine(m_rules, finding, CheckedVersion) + u'\n');
+        EXPECT_EQ(QString::fromStdString(line),
+                  u"f:%1:%2: %3: "_s.arg(finding.line).arg(finding.field).arg(finding.number)
+                      + findingLine(m_rules, finding, CheckedVersion) + u'\n');
         ++compared;
     }
 

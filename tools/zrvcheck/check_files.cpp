@@ -6,6 +6,7 @@
 #include "files/check_catalogue.h"
 #include "tools/zrvcheck/file_output.h"
 #include "tools/zrvcheck/finding_lines.h"
+#include "tools/zrvcheck/utf8_report.h"
 
 #include <algorithm>
 #include <atomic>
@@ -104,9 +105,8 @@ FileResult checkFile(const QString &path, const CheckJob &job, FileOutput &list,
     addRemarks(outcome, result, list);
     // Only now is it known whether there is a report.
     if (writesReport && outcome.showsReport) {
-        Utf8Report sink(reports);
-        ReportWriter writer(rules, options, job.clock, sink);
-        StructureCheck(rules, path, options).run(writer);
+        Utf8Report report(rules, options, job.clock, reports);
+        StructureCheck(rules, path, options).run(report);
     }
     return result;
 }

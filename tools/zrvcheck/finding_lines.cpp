@@ -50,11 +50,11 @@ quint64 keyOf(const FileRules &rules, const Finding &finding)
     }
 }
 
-void appendNumber(QByteArray &text, qint64 number)
+void appendNumber(std::string &text, qint64 number)
 {
     std::array<char, 20> digits{};
     const char *const end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    text.append(digits.data(), end - digits.data());
+    text.append(digits.data(), static_cast<std::size_t>(end - digits.data()));
 }
 
 } // namespace
@@ -62,36 +62,36 @@ void appendNumber(QByteArray &text, qint64 number)
 FindingLines::FindingLines(const FileRules &rules, const QString &programVersion, const QString &path)
     : m_rules(rules)
     , m_programVersion(programVersion)
-    , m_path(path.toUtf8())
+    , m_path(path.toStdString())
 {
 }
 
-void FindingLines::append(const Finding &finding, QByteArray &text)
+void FindingLines::append(const Finding &finding, std::string &text)
 {
-    text.append(m_path);
-    text.append(':');
+    text += m_path;
+    text += ':';
     appendNumber(text, finding.line);
-    text.append(':');
+    text += ':';
     appendNumber(text, finding.field);
-    text.append(": ", 2);
+    text += ": ";
     appendNumber(text, finding.number);
-    text.append(": ", 2);
+    text += ": ";
     if (const quint64 key = keyOf(m_rules, finding)) {
         if (m_words.size() >= MostKept)
             m_words.clear();
         const auto [words, isNew] = m_words.try_emplace(key);
         if (isNew)
             words->second = wordsOf(finding);
-        text.append(words->second);
+        text += words->second;
     } else {
-        text.append(wordsOf(finding));
+        text += wordsOf(finding);
     }
-    text.append('\n');
+    text += '\n';
 }
 
-QByteArray FindingLines::wordsOf(const Finding &finding) const
+std::string FindingLines::wordsOf(const Finding &finding) const
 {
-    return findingLine(m_rules, finding, m_programVersion).toUtf8();
+    return findingLine(m_rules, finding, m_programVersion).toStdString();
 }
 
 } // namespace zrv::checktool

@@ -5,9 +5,9 @@
 
 #include "files/line_check.h"
 
-#include <QByteArray>
 #include <QString>
 
+#include <string>
 #include <unordered_map>
 
 namespace zrv::checktool {
@@ -18,15 +18,15 @@ public:
     FindingLines(const FileRules &rules, const QString &programVersion, const QString &path);
 
     /// Puts the line with its end behind the text.
-    void append(const Finding &finding, QByteArray &text);
+    void append(const Finding &finding, std::string &text);
 
 private:
-    [[nodiscard]] QByteArray wordsOf(const Finding &finding) const;
+    [[nodiscard]] std::string wordsOf(const Finding &finding) const;
 
     const FileRules &m_rules;
     QString m_programVersion;
-    QByteArray m_path;
-    std::unordered_map<quint64, QByteArray> m_words;
+    std::string m_path;
+    std::unordered_map<quint64, std::string> m_words;
 };
 
 } // namespace zrv::checktool
