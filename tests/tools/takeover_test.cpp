@@ -155,8 +155,26 @@ TEST_F(TakeoverTest, AJournalOfAnotherStoreIsNotLeftToSpoilTheNewOne)
 {
     ASSERT_TRUE(QDir().mkpath(in(u"new"_s)));
     write("journal", u"new/DBZorvan.mdb-journal"_s);
-    EXPECT_TRUE(takenOver(write(jetFile(oldStore(Age::Old)))).last().contains(u"move it away first"));
+    EXPECT_TRUE(takenOver(write(jetFile(oldStore(Age::Old)))).last().endsWith(u"move it away first [can-not-write]"));
     EXPECT_FALSE(QFile::exists(newStore()));
+}
+
+TEST_F(TakeoverTest, AJournalOfTheStoreInWhosePlaceTheOldOneWasPutIsSetAside)
+{
+    createSample(in(u"new"_s), {.payees = 400});
+    const pid_t child = ::fork();
+    if (child == 0) {
+        // With room for one page, what is changed goes into the file at once.
+        Sqlite killed(newStore());
+        killed.run(u"PRAGMA cache_size=1; BEGIN; UPDATE ZRVtbHogog SET NJariHogog='1'"_s);
+        ::_exit(0);
+    }
+    ::waitpid(child, nullptr, 0);
+    write(jetFile(oldStore(Age::Current)), u"new/DBZorvan.mdb"_s);
+    EXPECT_EQ(takenOver(newStore()).last(), u"doubts: 0"_s);
+    EXPECT_EQ(QDir(in(u"new"_s)).entryList(QDir::Files | QDir::Hidden),
+              (QStringList{u"DBZorvan.mdb"_s, u"DBZorvan.mdb-journal.foreign"_s, u"JetDBZorvan.mdb"_s}));
+    EXPECT_EQ(verified(newStore()).last(), u"findings: 0"_s);
 }
 
 TEST_F(TakeoverTest, MissingTablesAndColumnsAreNamedAndNotGuessedAt)

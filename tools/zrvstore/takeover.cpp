@@ -2,6 +2,7 @@
 #include "tools/zrvstore/takeover.h"
 
 #include "core/basic/run_time_error.h"
+#include "core/store/foreign_journal.h"
 #include "core/store/new_store.h"
 #include "tools/jet/read_file.h"
 #include "tools/jet/refused.h"
@@ -62,6 +63,18 @@ jet::FileBytes readBytes(const QString &file)
     }
 }
 
+/// What a killed statement left of a store that lay here before the old one.
+void refuseJournal(const QString &path, bool isInPlace)
+{
+    if (isInPlace && !setForeignJournalAside(path))
+        fail(path + u"-journal can't be moved away"_s, CannotWrite);
+    try {
+        refuseForeignJournal(path);
+    } catch (const Failure &failure) {
+        fail(failure.reason(), CannotWrite);
+    }
+}
+
 void addRows(NewStore &store, const OldTable &table)
 {
     std::vector<Value> cells(table.shape.columns.size());
@@ -90,7 +103,7 @@ qint64 takeOver(const QString &file, const QString &folder, bool asStored, const
         QFileInfo(path).isFile() && !QFileInfo(path).isSymLink() && QFileInfo(path) == QFileInfo(file);
     if (!isInPlace && (QFileInfo::exists(path) || QFileInfo(path).isSymLink()))
         fail(path + u" exists and is not replaced"_s, CannotWrite);
-    refuseForeignJournal(path);
+    refuseJournal(path, isInPlace);
 
     TakeoverReport report(sink, MostOfAKind);
     jet::FileBytes read = readBytes(file);
