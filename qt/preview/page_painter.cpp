@@ -20,9 +20,10 @@ namespace {
 
 constexpr double UnitsPerMillimetre = 100;
 constexpr double UnitsPerPoint = 25.4 / 72 * UnitsPerMillimetre;
-/// From line to line, and from a line's top to its letters' feet, as parts of the letters' size: the font's own lines
-/// leave room for vowel signs that no report bears.
-constexpr double LinePitch = 1.5;
+/// The height of a text's one line, how much each further line adds to it, and from a line's top to its letters' feet,
+/// as parts of the letters' size: the font's own lines leave room for vowel signs that no report bears.
+constexpr double LineHeight = 1.5;
+constexpr double LinePitch = 1.25;
 constexpr double FootOfLine = 1.05;
 /// Down to this part of its size a text keeps its words whole.
 constexpr double LeastWithWholeWords = 0.65;
@@ -44,10 +45,14 @@ QRectF inUnits(const QRectF &box)
     return {box.topLeft() * UnitsPerMillimetre, box.size() * UnitsPerMillimetre};
 }
 
+double heightOf(int lines, double size)
+{
+    return (LineHeight + (lines - 1) * LinePitch) * size;
+}
+
 /// Breaks the text at this size; false when it does not fit the box then.
 bool lay(QTextLayout &layout, const QSizeF &room, double size)
 {
-    const double most = std::max(size * LinePitch, room.height());
     bool fits = true;
     double top = 0;
     layout.beginLayout();
@@ -55,10 +60,11 @@ bool lay(QTextLayout &layout, const QSizeF &room, double size)
         line.setLineWidth(room.width());
         line.setPosition({0, top + size * FootOfLine - line.ascent()});
         top += size * LinePitch;
-        fits = fits && line.naturalTextWidth() <= room.width() && top <= most + 1;
+        fits = fits && line.naturalTextWidth() <= room.width();
     }
     layout.endLayout();
-    return fits;
+    const int lines = layout.lineCount();
+    return fits && (lines <= 1 || heightOf(lines, size) <= room.height() + 1);
 }
 
 void paintText(QPainter &painter, const report::Text &text)
@@ -82,7 +88,7 @@ void paintText(QPainter &painter, const report::Text &text)
         if (lay(layout, box.size(), size) || size < 1)
             break;
     }
-    const double height = layout.lineCount() * size * LinePitch;
+    const double height = heightOf(layout.lineCount(), size);
     painter.setPen(Qt::black);
     layout.draw(&painter, box.topLeft() + QPointF(0, (box.height() - height) / 2));
 }

@@ -42,6 +42,22 @@ QRect ink(const QImage &image)
     return dark;
 }
 
+/// The bands of ink, from top to bottom.
+std::vector<QRect> linesOf(const QImage &image)
+{
+    std::vector<QRect> lines;
+    bool between = true;
+    for (int y = 0; y < image.height(); ++y) {
+        const QRect row = ink(image.copy(0, y, image.width(), 1));
+        if (!row.isEmpty() && between)
+            lines.push_back(row.translated(0, y));
+        else if (!row.isEmpty())
+            lines.back() |= row.translated(0, y);
+        between = row.isEmpty();
+    }
+    return lines;
+}
+
 QRect inkOf(const QString &text, double width, double height, bool leftToRight = false,
             report::Side side = report::Side::Right)
 {
@@ -127,6 +143,20 @@ TEST(PagePainter, ALongNameWrapsBeforeItShrinks)
     const QRect one = inkOf(u"حسيني"_s, 19, 8);
     const QRect two = inkOf(u"حسيني علوي طباطبايي خوراسگاني"_s, 19, 8);
     EXPECT_GT(two.height(), one.height() * 3 / 2);
+}
+
+TEST(PagePainter, ANameOfFiftyLettersTakesThreeLinesAndKeepsThreeQuartersOfItsSize)
+{
+    // No letter of the word goes below its line, so the lines stand apart.
+    const QString word = u"السادات"_s;
+    report::Page page;
+    page.items.push_back(
+        report::Text{.box = {20, 20, 19, 8.2}, .text = QStringList(6, word).join(u' ') + u" دوم"_s, .points = 7});
+    const QImage name = painted(page, {60, 50});
+    expectWithin(ink(name), 19, 8.2);
+    const std::vector<QRect> lines = linesOf(name);
+    ASSERT_EQ(lines.size(), 3U);
+    EXPECT_GT(lines.front().height(), inkOf(word, 19, 8).height() * 3 / 4);
 }
 
 TEST(PagePainter, ANumberIsNeverBroken)
