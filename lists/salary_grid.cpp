@@ -89,9 +89,11 @@ QString expressionOf(const Column &column)
     }
 }
 
-/// Amounts are texts of digits; as texts 900 would come behind 12000.
+/// Months follow each other as the year goes. Amounts are texts of digits; as texts 900 would come behind 12000.
 QString orderOf(const Column &column)
 {
+    if (column.field == u"TaxMonth")
+        return u"ZRVtbHogog.TaxMonth"_s;
     return column.kind == Kind::Amount ? QString(u"val("_s + expressionOf(column) + u")"_s) : QString();
 }
 
