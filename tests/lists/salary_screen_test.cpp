@@ -22,6 +22,8 @@ public:
         boxes += QString::number(style, 16) + u' ' + title;
         return style & box::YesNo ? Answer::Yes : Answer::Ok;
     }
+    std::function<void()> onYield = [] {};
+    void yield() override { onYield(); }
 };
 
 class SalaryScreen : public StoreTest {
@@ -175,6 +177,12 @@ TEST_P(SalaryFigures, RandomEditsSavedAndOpenedAgainShowTheSameFigures)
 INSTANTIATE_TEST_SUITE_P(Classes, SalaryFigures, testing::Values("0012345679", "1234567891", "P123456"),
                          [](const auto &code) { return std::string(code.param); });
 
+TEST_F(SalaryScreen, BearsItsTitle)
+{
+    screen.load();
+    EXPECT_EQ(screen.caption(), u"ورود و ويرايش اطلاعات حقوق و مزاياي ماهانه دريافت کنندگان حقوق"_s);
+}
+
 TEST_F(SalaryScreen, TypedAmountKeepsTheCaretBehindItsLastDigit)
 {
     openMonth();
@@ -234,6 +242,25 @@ TEST_F(SalaryScreen, PayeeOfTwoPayersIsPassedTwiceAndLeftBehind)
 }
 
 // The grid ---------------------------------------------------------------------------------------------------
+
+TEST_F(SalaryScreen, CarryShowsAndDrawsTheWaitPictureBeforeItCopies)
+{
+    openMonth();
+    openPayee(u"P123456"_s);
+    completedBy(u"5"_s);
+    ASSERT_TRUE(screen.userClick(screen.cmdKeyReturn1));
+    int drawn = 0;
+    platform.onYield = [&] {
+        ++drawn;
+        EXPECT_TRUE(screen.LabelWaitingMessage.isShown());
+        EXPECT_EQ(rows(u"SELECT MelliCode FROM ZRVtbHogog WHERE TaxMonth='04'"_s), QStringList());
+        EXPECT_FALSE(screen.userClick(screen.cmdExit)) << "a click while it runs is dropped";
+    };
+    openMonth(u"04"_s);
+    EXPECT_EQ(drawn, 1);
+    EXPECT_FALSE(screen.PPICWaitingMessage.isVisible());
+    EXPECT_EQ(rows(u"SELECT MelliCode FROM ZRVtbHogog WHERE TaxMonth='04'"_s), QStringList{u"P123456"_s});
+}
 
 TEST_F(SalaryScreen, ArrowsStepThroughTheShownColumnsAndWrapRound)
 {

@@ -70,6 +70,12 @@ protected:
     frmKholList screen{program};
 };
 
+TEST_F(SummaryScreen, BearsItsTitle)
+{
+    open();
+    EXPECT_EQ(screen.caption(), u"ورود  و  ويرايش  خلاصه  ليست  ماهانه"_s);
+}
+
 TEST_F(SummaryScreen, StoreWithoutAPayerIsToldAndTheScreenStaysOpen)
 {
     open();

@@ -33,6 +33,7 @@ TEST_F(StoreTest, TransferShowsAndDrawsTheWaitPictureBeforeItCopies)
     frmTransferData screen(program);
     screen.load();
     screen.activate();
+    EXPECT_EQ(screen.caption(), u"فرم انتقال اطلاعات ليست حقوق از يک سال به سال ديگر"_s);
     screen.dcbSourceYear.setBoundText(u"1389"_s);
     screen.dcbSourceMonth.setBoundText(u"12"_s);
     screen.txtDestinationYear.setText(u"1390"_s);
