@@ -10,6 +10,7 @@
 #include "core/frmUser_Defination.h"
 #include "core/kept_copies.h"
 #include "files/frmCreatTextFiles.h"
+#include "files/frmReadTextFiles.h"
 #include "lists/frmHogog1.h"
 #include "lists/frmKholList.h"
 #include "lists/frmTransferData.h"
@@ -51,6 +52,7 @@ void fillCatalogue(Catalogue &catalogue)
     catalogue.add(u"frmKholList"_s, makeScreen<frmKholList>);
     catalogue.add(u"frmTransferData"_s, makeScreen<frmTransferData>);
     catalogue.add(u"frmCreatTextFiles"_s, makeScreen<frmCreatTextFiles>);
+    catalogue.add(u"frmReadTextFiles"_s, makeScreen<frmReadTextFiles>);
     catalogue.add(u"frmUpgradeDatabaseStructureAndUpdateUserRecords"_s,
                   makeScreen<frmUpgradeDatabaseStructureAndUpdateUserRecords>);
     catalogue.add(u"frmUpgradeZRVtbKarkonan"_s, makeScreen<frmUpgradeZRVtbKarkonan>);

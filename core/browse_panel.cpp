@@ -94,7 +94,8 @@ void BrowsePanel::reset()
 
 void BrowsePanel::showRows(const QString &statement, const QString &order)
 {
-    grid.setRows(openRows(m_screen.program(), statement + order));
+    const QString select = statement + order;
+    grid.setRows(m_query.open ? m_query.open(select) : openRows(m_screen.program(), select));
     m_shown = statement;
     LabelGridCount.setCaption(Format(grid.rowCount(), m_query.countFormat));
 }
@@ -114,12 +115,19 @@ void BrowsePanel::reporting(const std::function<void()> &routine)
 void BrowsePanel::fill()
 {
     const bool asEntered = m_query.keepsEntryOrder && OptNormal.isChecked();
-    reporting([&] { showRows(m_query.all(), asEntered ? QString() : m_query.order); });
+    reporting([&] { showAll(asEntered ? QString() : m_query.order); });
 }
 
 void BrowsePanel::fillAsStored()
 {
-    reporting([this] { showRows(m_query.all(), {}); });
+    reporting([this] { showAll({}); });
+}
+
+void BrowsePanel::showAll(const QString &order)
+{
+    showRows(m_query.all(), order);
+    if (onShown)
+        onShown(false);
 }
 
 bool BrowsePanel::show(const QString &statement, const QString &order)
@@ -190,11 +198,15 @@ bool BrowsePanel::search()
     lstWord_Seperator.clear();
     for (const QString &word : words)
         lstWord_Seperator.addItem({word, {}});
-    if (!words.isEmpty())
-        return show(m_query.search(wordCondition(expressionOf(m_searchColumn), words, m_searchSimilar)),
-                    m_query.searchOrder.isEmpty() ? m_query.order : m_query.searchOrder);
-    fill();
-    return true;
+    if (words.isEmpty()) {
+        fill();
+        return true;
+    }
+    const bool isFound = show(m_query.search(wordCondition(expressionOf(m_searchColumn), words, m_searchSimilar)),
+                              m_query.searchOrder.isEmpty() ? m_query.order : m_query.searchOrder);
+    if (onShown)
+        onShown(true);
+    return isFound;
 }
 
 void BrowsePanel::cmdSearch_Click()

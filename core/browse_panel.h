@@ -30,6 +30,8 @@ struct BrowseQuery {
     FailureReport report = FailureReport::PlainBox;
     QString countFormat = u"0"_s; ///< picture of the number of rows
     bool keepsEntryOrder = false; ///< while OptNormal is chosen, each filling shows the order of entry
+    /// Opens a statement's rows where they aren't the store's.
+    std::function<std::shared_ptr<const RowSource>(const QString &select)> open = {};
 };
 
 /// The grid of a record screen with everything that acts on it: the three options with their two captions each,
@@ -80,6 +82,8 @@ public:
     /// A double click or Enter on a row, and the Delete key on it.
     std::function<void()> onPick;
     std::function<void()> onDelete;
+    /// The rows of a search are shown, or all rows again.
+    std::function<void(bool areSought)> onShown;
 
     [[nodiscard]] bool sortAscending() const { return m_sortAscending; }
     [[nodiscard]] bool searchSimilar() const { return m_searchSimilar; }
@@ -87,6 +91,7 @@ public:
 
 private:
     void showRows(const QString &statement, const QString &order);
+    void showAll(const QString &order);
     void reporting(const std::function<void()> &routine);
     void headClicked(int column);
     bool gridKey(Key key);

@@ -1,16 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/store_rows.h"
 
-#include "core/store/row_window.h"
-
 namespace zrv {
 
 namespace {
 
 class StoreRows : public RowSource {
 public:
-    StoreRows(const QString &connectionString, const QString &select)
-        : m_rows(connectionString, select)
+    explicit StoreRows(RowWindow rows)
+        : m_rows(std::move(rows))
     {
     }
 
@@ -25,7 +23,12 @@ private:
 
 std::shared_ptr<const RowSource> openRows(Program &program, const QString &select)
 {
-    return std::make_shared<StoreRows>(program.StoreConnectionString, select);
+    return openRows(RowWindow(program.StoreConnectionString, select));
+}
+
+std::shared_ptr<const RowSource> openRows(RowWindow rows)
+{
+    return std::make_shared<StoreRows>(std::move(rows));
 }
 
 } // namespace zrv

@@ -159,6 +159,64 @@ private:
     qint64 m_found = -1;
 };
 
+/// Counts the lines and stops behind one with what it speaks of.
+class CheckReport::PlaceSearch : private ReportSink, public ReportWriter {
+public:
+    PlaceSearch(const StructureCheck &check, const ReportClock &clock, qint64 line, qint64 sought)
+        : ReportWriter(check.rules(), check.options(), clock, static_cast<ReportSink &>(*this))
+        , m_line(line)
+        , m_sought(sought)
+    {
+    }
+
+    void finding(const Finding &finding) override
+    {
+        // Too few records are told behind the last of them.
+        if (finding.kind == FindingKind::TooFewRecords)
+            begin({});
+        ReportWriter::finding(finding);
+    }
+    void lineBegins(qint64 line) override
+    {
+        begin({line, 0});
+        ReportWriter::lineBegins(line);
+    }
+    void fieldBegins(const Field &field) override
+    {
+        begin({m_place.record, field.number});
+        ReportWriter::fieldBegins(field);
+    }
+    void surplusBegins(qint64 line, int number) override
+    {
+        begin({line, number});
+        ReportWriter::surplusBegins(line, number);
+    }
+    void finished() override
+    {
+        begin({});
+        ReportWriter::finished();
+    }
+
+    [[nodiscard]] ReportPlace place() const { return m_place; }
+
+private:
+    /// What the report says next is of that place.
+    void begin(const ReportPlace &place)
+    {
+        if (m_line > m_sought)
+            throw Enough();
+        m_place = place;
+    }
+
+    void add(QStringView) override {}
+    void endLine() override { ++m_line; }
+    [[nodiscard]] bool wantsText() const override { return false; }
+
+    qint64 m_line;
+    qint64 m_sought;
+    ReportPlace m_place;
+};
+
 CheckReport::CheckReport(FileKind kind, const QString &path, const CheckOptions &options, ReportClock clock)
     : m_path(path)
     , m_check(rulesOf(kind), path, options)
@@ -328,6 +386,19 @@ qint64 CheckReport::findError(qint64 line)
                                                      [](const Mark &mark) { return mark.place.state.errors; });
         from = std::prev(behind);
     }
+}
+
+ReportPlace CheckReport::placeOf(qint64 line)
+{
+    const ReportClock clock = [this] { return m_started; };
+    const auto from = markBefore(line);
+    PlaceSearch search(m_check, clock, m_marks.empty() || from == m_marks.begin() ? 0 : from->line, line);
+    try {
+        make(search, from, {});
+    } catch (const Enough &) {
+        return search.place();
+    }
+    return search.place();
 }
 
 bool CheckReport::write(ReportSink &sink, const std::function<bool()> &goOn)

@@ -14,6 +14,12 @@ namespace zrv {
 class ReportGauge;
 class ReportMeasure;
 
+/// Counted from 1 as in the file; 0 where the report speaks of neither.
+struct ReportPlace {
+    qint64 record = 0;
+    int field = 0;
+};
+
 /// Memory: some 6 MB at most, whatever the file's length. To be used from one thread. Keeps the file open; once somebody
 /// writes to the file, whatever makes text of it raises DeviceIo.
 class CheckReport {
@@ -29,12 +35,17 @@ public:
     /// A text behind the last CR LF is a line too.
     [[nodiscard]] qint64 lineCount() const { return m_end.lines; }
     [[nodiscard]] qint64 errorCount() const { return m_outcome.errors; }
+    /// Of the file, in bytes; 0 before it was opened.
+    [[nodiscard]] qint64 fileSize() const { return m_check.fileSize(); }
 
     /// The lines from `first` on (from 0), as many as there are up to `count`, joined by CR LF without one at the end.
     [[nodiscard]] QString lines(qint64 first, qint64 count);
 
     /// The next line behind `line` that tells an error; -1 when there is none. With -1 the first of all.
     [[nodiscard]] qint64 nextError(qint64 line);
+
+    /// Which line of the file, and which field of it, a line of the report speaks of.
+    [[nodiscard]] ReportPlace placeOf(qint64 line);
 
     /// The whole report, in any length, piece by piece. False if `goOn`, called now and then, wanted to stop.
     bool write(ReportSink &sink, const std::function<bool()> &goOn = {});
@@ -66,6 +77,7 @@ private:
     class Excerpt;
     class ExcerptWriter;
     class ErrorSearch;
+    class PlaceSearch;
 
     void runPassingOver(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine);
     void addMark(const CheckPlace &place, const ReportMeasure &measure);

@@ -8,6 +8,7 @@
 #include <QEvent>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
 
 namespace zrv {
 
@@ -20,6 +21,18 @@ void passClicks(QAbstractButton &widget, FormWindow &window, Binder &binder)
         window.enter([&] { window.form().userClick(binder.control()); });
         binder.refresh(Aspect::Checked);
     });
+}
+
+/// The caption in two lines where the display has no room for it in one.
+QString inTheRoomOf(const QWidget &widget, QString caption)
+{
+    constexpr int Beside = 120; // the box itself, and what is drawn around it
+    if (widget.fontMetrics().horizontalAdvance(caption) > widget.screen()->availableSize().width() - Beside) {
+        const qsizetype blank = caption.indexOf(u' ', caption.size() / 2);
+        if (blank >= 0)
+            caption[blank] = u'\n';
+    }
+    return caption;
 }
 
 } // namespace
@@ -71,7 +84,7 @@ QWidget *CheckBinder::widget() const
 void CheckBinder::refresh(Aspect aspect)
 {
     if (aspect == Aspect::Caption)
-        m_widget->setText(m_box.caption());
+        m_widget->setText(inTheRoomOf(*m_widget, m_box.caption()));
     else if (aspect == Aspect::Checked)
         m_widget->setChecked(m_box.isChecked());
     else

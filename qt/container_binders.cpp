@@ -70,6 +70,10 @@ void FrameBinder::refresh(Aspect aspect)
 {
     if (aspect == Aspect::Caption && m_box) {
         m_box->setTitle(m_frame.caption());
+    } else if (aspect == Aspect::Caption && !m_frame.caption().isEmpty()) {
+        // A page whose caption changes has one of its own; until then its tab has what the tab control gave it.
+        auto *const tabs = static_cast<QTabWidget *>(m_window.groundOf(m_frame.container()));
+        tabs->setTabText(tabs->indexOf(m_page), m_frame.caption());
     } else if (aspect == Aspect::Colors && m_box) {
         // A frame's colour is its line's. A palette would hand it on to all that lies inside.
         if (m_frame.textColor() != color::Text)

@@ -256,6 +256,9 @@ bool Form::userPage(Tabs &tabs, int page)
 
 bool Form::userClose()
 {
+    // What can be cancelled is cancelled first; the form stays until it is asked again.
+    if (m_open && m_depth > 0)
+        return m_live && userClick(*m_live);
     return m_open && m_depth == 0 && carryOut([this] { unload(UnloadMode::CloseBox); });
 }
 

@@ -124,9 +124,10 @@ void Form::userEdited(Edit &edit, const QString &text, qsizetype caret)
 
 bool Form::userKey(Key key)
 {
-    if (!m_open || m_depth > 0)
-        return false;
-    return carryOut([&] { namedKey(key); });
+    // Escape ends what is under way and can be cancelled.
+    if (m_open && m_depth > 0)
+        return key == Key::Escape && m_live && userClick(*m_live);
+    return m_open && carryOut([&] { namedKey(key); });
 }
 
 bool Form::namedKey(Key key)

@@ -45,7 +45,17 @@ RowWindow::RowWindow(QString connectionString, const QString &select)
     : m_connectionString(std::move(connectionString))
 {
     const Connection connection(m_connectionString);
-    StoreFile &file = *connection.m_file;
+    readIds(*connection.m_file, select);
+}
+
+RowWindow::RowWindow(std::shared_ptr<StoreFile> file, const QString &select)
+    : m_file(std::move(file))
+{
+    readIds(*m_file, select);
+}
+
+void RowWindow::readIds(StoreFile &file, const QString &select)
+{
     const dialect::Statement statement = dialect::parse(select);
     if (!std::holds_alternative<dialect::Select>(statement))
         dialect::refuse(select);
@@ -93,8 +103,8 @@ RowWindow::Page RowWindow::readPage(int number) const
     for (auto id = first; id != last; ++id)
         list += (id == first ? u'(' : u',') + QString::number(*id);
 
-    const Connection connection(m_connectionString);
-    StoreFile &file = *connection.m_file;
+    const std::shared_ptr<StoreFile> opened = m_file ? m_file : Connection(m_connectionString).m_file;
+    StoreFile &file = *opened;
     CodeTables codeTables;
     const PreparedStatement statement = file.prepare(m_rowsOfIdsSql + list + u')');
     codeTables = bindCodeTables(statement.get(), m_codeTables);

@@ -17,6 +17,8 @@ class RowWindow {
 public:
     /// Runs the query once. Raises the store's errors.
     RowWindow(QString connectionString, const QString &select);
+    /// The same over a file that stays open as long as its rows are looked at.
+    RowWindow(std::shared_ptr<StoreFile> file, const QString &select);
 
     [[nodiscard]] int rowCount() const { return static_cast<int>(m_ids.empty() ? m_rows.size() : m_ids.size()); }
     /// Row and column from 0. NULL gives the empty text.
@@ -31,10 +33,12 @@ private:
         std::vector<QStringList> rows;
     };
 
+    void readIds(StoreFile &file, const QString &select);
     [[nodiscard]] const Page &page(int number) const;
     [[nodiscard]] Page readPage(int number) const;
 
     QString m_connectionString;
+    std::shared_ptr<StoreFile> m_file; ///< null: it is opened for each page
     QString m_rowsOfIdsSql;
     QStringList m_codeTables; ///< what both statements look up
     int m_columns = 0;

@@ -8,6 +8,7 @@
 #include "core/store/store_error.h"
 #include "core/store/store_failure.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <sqlite3.h>
@@ -70,24 +71,41 @@ StoreFile::StoreFile(QString path)
         throw RunTimeError(store_error::General,
                            u"در کنار بانک اطلاعاتي باقيمانده عمليات ناتمام فايل ديگري وجود دارد . آنرا حذف نماييد : "_s
                                + m_path + u"-journal"_s);
-    const int opened = sqlite3_open_v2(m_path.toUtf8().constData(), &m_database,
-                                       SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
     try {
-        if (opened != SQLITE_OK)
-            throw storeFailure(m_database, m_path, false);
+        open(m_path.toUtf8().constData(), SQLITE_OPEN_READWRITE);
         sqlite3_busy_timeout(m_database, LongestWaitMs);
         // A doctored file must not run code of ours from its triggers and checks.
         sqlite3_db_config(m_database, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
         sqlite3_db_config(m_database, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
         sqlite3_db_config(m_database, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-        addSqlFunctions(m_database);
-        addCodeFunctions(m_database);
         if (head.writesAhead)
             run(u"PRAGMA journal_mode=DELETE"_s);
     } catch (...) {
         sqlite3_close(m_database);
         throw;
     }
+}
+
+StoreFile::StoreFile()
+    : m_path(QDir::tempPath())
+{
+    try {
+        open("", SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+        for (const auto setting :
+             {"journal_mode=OFF"_L1, "synchronous=OFF"_L1, "temp_store=FILE"_L1, "cache_size=-16384"_L1})
+            run("PRAGMA "_L1 + setting);
+    } catch (...) {
+        sqlite3_close(m_database);
+        throw;
+    }
+}
+
+void StoreFile::open(const char *path, int flags)
+{
+    if (sqlite3_open_v2(path, &m_database, flags | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr) != SQLITE_OK)
+        throw storeFailure(m_database, m_path, false);
+    addSqlFunctions(m_database);
+    addCodeFunctions(m_database);
 }
 
 StoreFile::~StoreFile()

@@ -27,6 +27,9 @@ class StoreFile : public dialect::Catalog {
 public:
     /// Opens an existing file for reading and writing. Raises store_error::General where it is missing or no store.
     explicit StoreFile(QString path);
+    /// An empty file of SQLite's own where temporary files lie: it has no name and goes with the object. Nothing in it
+    /// is safe from a power cut, and of its pages no more than 16 MB are in memory.
+    StoreFile();
     ~StoreFile() override;
     StoreFile(const StoreFile &) = delete;
     StoreFile &operator=(const StoreFile &) = delete;
@@ -49,6 +52,7 @@ public:
     void expectLargeChange();
 
 private:
+    void open(const char *path, int flags);
     [[noreturn]] void raise(sqlite3_stmt *failed) const;
     [[nodiscard]] std::optional<TableShape> readTable(QStringView name);
     [[nodiscard]] QStringList indexColumns(const QString &index);

@@ -21,6 +21,7 @@ constexpr Row layouts[] = {
     {QLatin1String("frmAbout"),              layOutAbout},
     {QLatin1String("frmEncodeDecode"),       layOutEncodeDecode},
     {QLatin1String("frmCreatTextFiles"),     layOutCreatTextFiles},
+    {QLatin1String("frmReadTextFiles"),      layOutReadTextFiles},
     {QLatin1String("frmCodingCalls"),        layOutCodingCalls},
     {QLatin1String("frmCoding"),             layOutCoding},
     {QLatin1String("frmUser_Defination"),    layOutUser_Defination},

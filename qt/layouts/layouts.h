@@ -16,6 +16,7 @@ void layOutMain(LayoutBuilder &b);
 void layOutAbout(LayoutBuilder &b);
 void layOutEncodeDecode(LayoutBuilder &b);
 void layOutCreatTextFiles(LayoutBuilder &b);
+void layOutReadTextFiles(LayoutBuilder &b);
 void layOutCodingCalls(LayoutBuilder &b);
 void layOutCoding(LayoutBuilder &b);
 void layOutUser_Defination(LayoutBuilder &b);

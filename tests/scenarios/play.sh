@@ -40,6 +40,17 @@ make_store() {
     esac
 }
 
+# lay_files FOLDER: the files of the structure check's approved reports that the "#files" line of the head names, each in
+# a folder of its case's name.
+lay_files() {
+    local words file
+    read -ra words < <(sed -n -e '/^#/!q' -e 's/^#files //p' "$scenario" | head -n 1) || true
+    for file in "${words[@]/%//}"; do
+        mkdir "$1/$file"
+        cp "${0%/*}/../files/reports/$file"*.TXT "$1/$file"
+    done
+}
+
 # same WAY: whether the account of that play is the headless one.
 same() {
     diff -u --label headless <(account headless) --label "$1" <(account "$1")
@@ -61,6 +72,7 @@ rm -rf "$here"
 mkdir -p "$here/folder" "$here/home"
 chmod 700 "$here/home"
 make_store "$here/folder"
+lay_files "$here/folder"
 player=("$bin/zrvplay" --folder "$here/folder" --transcript "$here/transcript")
 [ "$way" = headless ] || player+=(--widgets)
 # Neither settings nor files of whoever runs this are touched, nor their display.
