@@ -42,6 +42,12 @@ private:
     QString m_path;
 };
 
+[[noreturn]] void refuseName(const QString &branch)
+{
+    throw RunTimeError(error::PathFileAccess,
+                       u"پوشه زير ايجاد نشد. لطفا بررسي نماييد که فايلي به همين نام وجود نداشته باشد:\n"_s + branch);
+}
+
 void copyProgram(const QString &program, const QString &copy)
 {
     if (CopyFile(program, copy))
@@ -71,6 +77,8 @@ void makeBranch(Platform &platform, int number)
     const QString branch = folder + u'/' + QString::number(number);
     if (FolderExists(branch))
         return;
+    if (QFileInfo::exists(branch) || QFileInfo(branch).isSymLink())
+        refuseName(branch);
     const Draft draft(branch + u".new"_s);
     platform.yield();
     copyProgram(platform.programFile(), draft.file(ProgramName));
@@ -83,9 +91,7 @@ void makeBranch(Platform &platform, int number)
                  u"ماليات حقوق شعبه "_s + QString::number(number), QString(), 1, 0);
     platform.yield();
     if (!QDir().rename(draft.path(), branch))
-        throw RunTimeError(error::PathFileAccess,
-                           u"پوشه زير ايجاد نشد. لطفا بررسي نماييد که فايلي به همين نام وجود نداشته باشد:\n"_s
-                               + branch);
+        refuseName(branch);
 }
 
 } // namespace zrv
