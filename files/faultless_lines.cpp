@@ -228,11 +228,14 @@ bool FaultlessLines::isFaultless(CheckState &state) const
     if (~fieldsOfRightLetters(limits) != 0 || firstLetter(InsuranceNumber) == u'0')
         return false;
     const std::uint16_t *const places = &m_ends.places[m_line.firstEnd];
-    unsigned bad = 0;
+    // All in numbers of one width, so that the compiler looks at many at once.
+    std::uint16_t bad = 0;
     for (std::size_t field = 0; field < Padded; ++field) {
         const auto length = static_cast<std::uint16_t>(places[field + 1] - places[field] - 1);
-        const bool isWithin = length >= limits.least[field] && length <= limits.most[field];
-        bad |= isWithin || length == m_leftEmpty[field] ? 0U : 1U;
+        const auto below = static_cast<std::uint16_t>(length < limits.least[field]);
+        const auto above = static_cast<std::uint16_t>(length > limits.most[field]);
+        const auto filled = static_cast<std::uint16_t>(length != m_leftEmpty[field]);
+        bad = static_cast<std::uint16_t>(bad | ((below | above) & filled));
     }
     if (bad != 0 || (limits.hasNationalCode && !hasValidCode()))
         return false;

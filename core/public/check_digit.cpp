@@ -9,12 +9,17 @@ namespace zrv {
 
 int nationalCheckDigit(QStringView nineDigits)
 {
-    if (nineDigits.size() != 9 || !std::all_of(nineDigits.begin(), nineDigits.end(), isAsciiDigit))
+    if (nineDigits.size() != 9)
         return -1;
     int sum = 0;
     int weight = 10;
-    for (const QChar digit : nineDigits)
+    bool areDigits = true;
+    for (const QChar digit : nineDigits) {
+        areDigits = areDigits && isAsciiDigit(digit);
         sum += (digit.unicode() - u'0') * weight--;
+    }
+    if (!areDigits)
+        return -1;
     const int remainder = sum % 11;
     return remainder < 2 ? remainder : 11 - remainder;
 }
