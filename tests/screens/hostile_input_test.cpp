@@ -124,7 +124,7 @@ const std::vector<Stage> Stages{
     {"SummaryNew",    make<frmKholList>,       SummaryByCheque, u"cmdDataOk", true, {}, {SummaryPayer, SummarySalary}},
     {"SummaryFound",  make<frmKholList>,       SummaryByCheque, u"cmdDataOk", true, {}, {SummaryPayer, SummarySalary, SummaryRow}},
     {"SummarySearch", make<frmKholList>,       {{u"OptSearch"}, {u"dbgLetter_Topic", u"3"}}, u"cmdSearch", false, {}, {SummaryPayer}},
-    {"FilesSearch",   make<frmReadTextFiles>,  {{u"OptSearch"}, {u"dbgHogog", u"3"}}, u"cmdSearch"},
+    {"FilesSearch",   make<frmReadTextFiles>,  {{u"SSTab1", u"1"}, {u"OptSearch"}, {u"dbgHogog", u"3"}}, u"cmdSearch"},
     {"Transfer",      make<frmTransferData>,   {{u"dcbSourceYear", u"1389"}, {u"dcbSourceMonth", u"12"}, {u"txtDestinationYear", u"1390"}, {u"dcbDestinationMonth", u"01"}}, u"cmdDisplayInformation", false, {}, {u"INSERT INTO ZRVtbHogog (TFN,MelliCode,TaxYear,TaxMonth) VALUES ('','1','1389','12')"}},
     {"Branches",      make<frmMakeShobe>,      {}, u"cmdExit"},
     {"RepairOfKey",   make<frmUpgrades>,       {{u"optUpgrades(2)"}}, u"cmdUpgrades"},

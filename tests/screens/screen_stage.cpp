@@ -27,6 +27,8 @@ bool carryOut(Screen &screen, const Step &step)
         return choose(screen, *combo, value);
     if (auto *const grid = dynamic_cast<Grid *>(control))
         return screen.userHead(*grid, value.toInt());
+    if (auto *const tabs = dynamic_cast<Tabs *>(control))
+        return screen.userPage(*tabs, value.toInt());
     if (!dynamic_cast<Edit *>(control))
         return screen.userClick(*control);
     return screen.userFocus(*control) && screen.userPaste(value);

@@ -11,7 +11,7 @@
 namespace zrv {
 
 /// What a user does to a control on the way to a stage: types into a field, picks a list's row by its code, clicks a
-/// button, ticks an option, clicks the head of a grid's column.
+/// button, ticks an option, clicks the head of a grid's column, opens a page.
 struct Step {
     const char16_t *control;
     const char16_t *value = u"";
