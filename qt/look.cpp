@@ -12,6 +12,8 @@
 #include <QStyleOption>
 #include <QTranslator>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -96,13 +98,33 @@ QPalette palette()
     return colors;
 }
 
+namespace {
+
+/// Whether a screen gave a field this ground for what it holds, and not for the stage that it is in.
+bool isMark(Color back)
+{
+    constexpr std::array OfStages{color::Field,       color::KeyField,      color::DataField,
+                                  color::FramedCombo, color::RequiredEmpty, color::Disabled};
+    return std::ranges::find(OfStages, back) == OfStages.end();
+}
+
+} // namespace
+
 void colorField(QWidget &field, Color back, Color text)
 {
     QPalette colors = field.palette();
-    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+    const auto set = [&](QPalette::ColorGroup group) {
         colors.setColor(group, QPalette::Base, QColor::fromRgb(solid(back)));
         colors.setColor(group, QPalette::Text,
                         text == color::Text ? QColor::fromRgb(Ink) : QColor::fromRgb(solid(text)));
+    };
+    set(QPalette::Active);
+    set(QPalette::Inactive);
+    if (isMark(back)) {
+        set(QPalette::Disabled);
+    } else {
+        colors.setColor(QPalette::Disabled, QPalette::Base, QColor::fromRgb(solid(color::Disabled)));
+        colors.setColor(QPalette::Disabled, QPalette::Text, QColor::fromRgb(PaleInk));
     }
     field.setPalette(colors);
 }

@@ -24,7 +24,8 @@ void speakPersian();
 /// The palette of the program; tests look at its contrasts.
 [[nodiscard]] QPalette palette();
 
-/// Gives a field its ground and letters. A disabled field keeps the palette's grey.
+/// Gives a field its ground and letters. A disabled field keeps the palette's grey, unless the ground is a mark of what
+/// the field holds: that is there to be seen also where the amount follows from another and can't be typed.
 void colorField(QWidget &field, Color back, Color text);
 
 /// A screen's title.

@@ -53,6 +53,20 @@ TEST(Look, TextIsReadableOnEveryColourThatAScreenGivesAField)
     }
 }
 
+TEST(Look, AFieldThatIsSwitchedOffIsGreyUnlessItsColourMarksWhatItHolds)
+{
+    constexpr Color FinalTax = 0xFF8080;
+    QLineEdit field;
+    field.setPalette(look::palette());
+    field.setEnabled(false);
+    look::colorField(field, FinalTax, color::Text);
+    EXPECT_EQ(field.palette().color(QPalette::Base).rgb() & 0xFFFFFF, FinalTax);
+    EXPECT_GE(contrast(field.palette().color(QPalette::Text), field.palette().color(QPalette::Base)), 4.5);
+    look::colorField(field, color::DataField, color::Text);
+    EXPECT_EQ(field.palette().color(QPalette::Base).rgb() & 0xFFFFFF, color::Disabled);
+    EXPECT_EQ(field.palette().color(QPalette::Text), look::palette().color(QPalette::Disabled, QPalette::Text));
+}
+
 TEST(Look, TheFocusRingStandsOutFromTheFieldAndTheWindow)
 {
     const QPalette palette = look::palette();
