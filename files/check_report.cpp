@@ -2,7 +2,7 @@
 #include "files/check_report.h"
 
 #include "core/basic/run_time_error.h"
-#include "files/report_measure.h"
+#include "files/gauge_thread.h"
 
 #include <algorithm>
 #include <iterator>
@@ -246,33 +246,37 @@ CheckOutcome CheckReport::run(const BeforeLine &beforeLine)
     return m_outcome;
 }
 
-/// Most lines of a salary list have nothing wrong in them: these are measured without being told of.
+/// Most lines of a salary list have nothing wrong in them: these are measured without being told of, beside the check.
 void CheckReport::runPassingOver(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine)
 {
     FileEvents events(writer);
-    ReportGauge gauge(m_check.rules(), m_check.options(), m_path, measure,
-                      [&](const CheckPlace &place) { addMark(place, measure); });
+    ReportMeasure ofLines;
+    ReportGauge gauge(m_check.rules(), m_check.options(), m_path, ofLines,
+                      [&](const CheckPlace &place) { addMark(place, ofLines); });
+    std::optional<GaugeThread> thread;
     m_outcome = m_check.run(events, [&](const CheckPlace &place) {
-        gauge.passTo(place);
+        if (!thread) {
+            ofLines = ReportMeasure(measure.lines(), measure.length());
+            thread.emplace(gauge);
+        }
         const bool goesOn = !beforeLine || beforeLine(place);
         if (goesOn)
-            gauge.measureLine(place);
+            thread->look(place);
         return goesOn;
     });
-    passRest(gauge);
-}
-
-/// The lines behind the last one that was looked at. The file may be gone by now.
-void CheckReport::passRest(ReportGauge &gauge)
-{
+    if (!thread)
+        return;
     try {
+        thread->finish();
         gauge.passTo({.offset = 0, .state = {.records = m_outcome.records, .errors = m_outcome.errors}});
     } catch (const RunTimeError &failure) {
+        // The file has gone while the check read on.
         m_outcome.end = CheckEnd::Failed;
         m_outcome.failure = failure.number();
         m_outcome.description = failure.description();
-        m_outcome.showsReport = m_check.rules().kind == FileKind::Wk;
+        m_outcome.showsReport = false;
     }
+    measure.addMeasured(ofLines);
 }
 
 void CheckReport::addMark(const CheckPlace &place, const ReportMeasure &measure)

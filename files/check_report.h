@@ -11,7 +11,6 @@
 
 namespace zrv {
 
-class ReportGauge;
 class ReportMeasure;
 
 /// Counted from 1 as in the file; 0 where the report speaks of neither.
@@ -81,7 +80,6 @@ private:
 
     void runPassingOver(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine);
     void addMark(const CheckPlace &place, const ReportMeasure &measure);
-    void passRest(ReportGauge &gauge);
     void make(ReportWriter &writer, const std::vector<Mark>::const_iterator &from, const BeforeLine &beforeLine);
     [[nodiscard]] std::vector<Mark>::const_iterator markBefore(qint64 line) const;
     void makeWindow(qint64 first, qint64 end);

@@ -18,7 +18,8 @@ namespace zrv {
 class ReportMeasure : public ReportSink {
 public:
     explicit ReportMeasure(qint64 lines = 0, qint64 length = 0)
-        : m_lines(lines)
+        : m_begin{lines, length}
+        , m_lines(lines)
         , m_length(length)
     {
     }
@@ -39,6 +40,12 @@ public:
         m_lines += lines;
         m_length += length;
     }
+    /// What another one has measured since it began.
+    void addMeasured(const ReportMeasure &other)
+    {
+        addLines(other.m_lines - other.m_begin.lines, other.m_length - other.m_begin.length);
+        m_isInLine = m_isInLine || other.m_isInLine;
+    }
 
     [[nodiscard]] qint64 lines() const { return m_lines; }
     [[nodiscard]] qint64 length() const { return m_length; }
@@ -46,6 +53,10 @@ public:
     [[nodiscard]] bool isInLine() const { return m_isInLine; }
 
 private:
+    struct {
+        qint64 lines;
+        qint64 length;
+    } m_begin;
     qint64 m_lines;
     qint64 m_length;
     bool m_isInLine = false;
