@@ -53,6 +53,12 @@ void setUp(QApplication &application)
     // Only the main form's question ends the program, not the last window that happens to be hidden.
     QApplication::setQuitOnLastWindowClosed(false);
     Q_UNUSED(application);
+    QApplication::setDesktopFileName(u"zrvclient"_s);
+    QPixmap mark(64, 64);
+    mark.fill(Qt::transparent);
+    QPainter painter(&mark);
+    paintMark(painter, mark.rect());
+    QApplication::setWindowIcon(mark);
 }
 
 void speakPersian()

@@ -183,9 +183,16 @@ void QtPlatform::viewFile(const QString &path)
     QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(nativePath(path)).absoluteFilePath()));
 }
 
+bool QtPlatform::isInstalledForAll()
+{
+    return QFileInfo::exists(QCoreApplication::applicationDirPath() + u"/../share/applications/zrvclient.desktop"_s);
+}
+
 QString QtPlatform::programFolder()
 {
-    return QCoreApplication::applicationDirPath();
+    return isInstalledForAll()
+               ? QString(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/ZRVClient"_s)
+               : QCoreApplication::applicationDirPath();
 }
 
 QString QtPlatform::programFile()

@@ -48,6 +48,10 @@ public:
     void yield() override;
     ToolEnd runTool(const QString &tool, const QStringList &words) override;
 
+    /// Whether the program lies in a folder of the system, where no user may write: the folder that holds the store is then
+    /// one of the user's own.
+    [[nodiscard]] static bool isInstalledForAll();
+
     /// The window of an open form; null when it has none.
     [[nodiscard]] FormWindow *windowOf(const Form &form) const;
     /// The window above all others; null before the first.

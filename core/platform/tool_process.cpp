@@ -2,6 +2,7 @@
 #include "core/platform/tool_process.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 
 namespace zrv {
@@ -16,7 +17,9 @@ ToolEnd runToolIn(const QString &folder, const QString &tool, const QStringList 
 {
     QProcess process;
     process.setStandardInputFile(QProcess::nullDevice());
-    process.start(QDir(folder).filePath(tool), words);
+    // A branch's folder holds the program alone: the tool is then the installed one.
+    const QString beside = QDir(folder).filePath(tool);
+    process.start(QFileInfo(beside).isExecutable() ? beside : tool, words);
     if (!process.waitForFinished(LongestMs)) {
         process.kill();
         process.waitForFinished();

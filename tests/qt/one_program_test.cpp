@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // One program works on a store at a time; who comes later, or after a crash.
+#include "core/platform/tool_process.h"
 #include "core/store/new_store.h"
 #include "core/store/store_lock.h"
 #include "qt/first_window.h"
+#include "qt/start.h"
+#include "tests/core/screens/quiet_platform.h"
 
 #include <QDir>
 #include <QFile>
@@ -102,6 +105,70 @@ TEST_F(OneProgram, TheLockOfAnotherMachineIsTakenOnlyWhenToldTo)
 TEST_F(OneProgram, AFolderThatTakesNoLockFileKeepsNobodyOut)
 {
     EXPECT_EQ(StoreLock(m_folder.filePath(u"missing/DBZorvan.mdb"_s)).state(), StoreLock::State::Impossible);
+}
+
+/// Keeps what it is told and asked; each question is answered with No. The tool is the real one.
+class Told : public QuietPlatform {
+public:
+    explicit Told(QString folder)
+        : m_folder(std::move(folder))
+    {
+    }
+    Answer messageBox(int, const QString &, const QString &text) override
+    {
+        texts.append(text);
+        return Answer::No;
+    }
+    QString programFolder() override { return m_folder; }
+    ToolEnd runTool(const QString &tool, const QStringList &words) override
+    {
+        return runToolIn(QFileInfo(QStringLiteral(ZRVCLIENT)).path(), tool, words);
+    }
+
+    QStringList texts;
+
+private:
+    QString m_folder;
+};
+
+TEST_F(OneProgram, TheUserSaysWhetherAnotherMachineIsDoneWithTheStore)
+{
+    leaveLockOf(u"accounts-2"_s, 4711);
+    StoreLock lock(store());
+    Told platform(m_folder.path());
+    EXPECT_FALSE(mayRun(platform, store(), lock));
+    ASSERT_EQ(platform.texts.size(), 1);
+    EXPECT_TRUE(platform.texts.first().contains(u"accounts-2"_s));
+    EXPECT_TRUE(QFile::exists(lockFile()));
+}
+
+TEST_F(OneProgram, WhereTheFirstDoesNotAnswerItIsSaidWhereItRuns)
+{
+    const StoreLock first(store());
+    StoreLock second(store());
+    Told platform(m_folder.path());
+    EXPECT_FALSE(mayRun(platform, store(), second));
+    ASSERT_EQ(platform.texts.size(), 1);
+    EXPECT_TRUE(platform.texts.first().contains(QString::number(QCoreApplication::applicationPid())));
+}
+
+TEST_F(OneProgram, TheFirstStartMakesTheFolderWithAnEmptyStoreAndALaterOneDoesNot)
+{
+    Told platform(m_folder.filePath(u"share/ZRVClient"_s));
+    EXPECT_TRUE(makeFirstStore(platform));
+    EXPECT_EQ(platform.texts.size(), 1);
+    ASSERT_TRUE(QFile::remove(m_folder.filePath(u"share/ZRVClient/DBZorvan.mdb"_s))) << "it was made";
+    EXPECT_TRUE(makeFirstStore(platform));
+    EXPECT_FALSE(QFile::exists(m_folder.filePath(u"share/ZRVClient/DBZorvan.mdb"_s)));
+}
+
+TEST_F(OneProgram, AStoreThatCannotBeMadeIsTold)
+{
+    QFile file(m_folder.filePath(u"share"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    Told platform(m_folder.filePath(u"share/ZRVClient"_s));
+    EXPECT_FALSE(makeFirstStore(platform));
+    EXPECT_EQ(platform.texts.size(), 1);
 }
 
 TEST_F(OneProgram, TheFirstIsAskedToComeToTheFront)
