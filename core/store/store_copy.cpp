@@ -2,6 +2,7 @@
 #include "core/store/store_copy.h"
 
 #include "core/store/new_file.h"
+#include "core/store/soundness.h"
 #include "core/store/store_error.h"
 #include "core/store/store_file.h"
 
@@ -43,10 +44,10 @@ std::map<QString, qint64> rowCounts(StoreFile &file)
     return counts;
 }
 
-bool isSound(StoreFile &file)
+std::map<QString, qint64> rowsOf(const QString &path)
 {
-    const PreparedStatement check = file.prepare(u"PRAGMA integrity_check(1)"_s);
-    return file.step(check) && text(check) == u"ok";
+    StoreFile file(path);
+    return rowCounts(file);
 }
 
 /// A file in the making, removed unless it takes the copy's name.
@@ -78,11 +79,8 @@ void copyStore(const QString &store, const QString &copy, EarlierCopy earlier)
     const std::map<QString, qint64> counts = rowCounts(source);
     source.copyPages(draft.path);
     source.run(u"COMMIT"_s);
-    {
-        StoreFile made(draft.path);
-        if (!isSound(made) || rowCounts(made) != counts)
-            refuse(u"فايل پشتيبان ايجاد شده سالم نيست", copy);
-    }
+    if (soundnessOf(draft.path) != Soundness::Sound || rowsOf(draft.path) != counts)
+        refuse(u"فايل پشتيبان ايجاد شده سالم نيست", copy);
     const bool isNamed = earlier == EarlierCopy::Replaced ? replaceFile(draft.path, copy) : giveName(draft.path, copy);
     if (!isNamed)
         refuse(u"فايل پشتيبان ايجاد نشد . فضاي ديسک و دسترسي پوشه را بررسي نماييد", copy);
