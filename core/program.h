@@ -49,12 +49,13 @@ struct Program {
     qint16 PayerMMoadiType = 0;
     qint16 PayerSMoadiType = 0;
     qint16 PayerMohasebeType = 0;
-    QString PrevSoftVersion;                        ///< the version for which the first-run question came last
-    QString HogogPath;                              ///< WH file handed from the writer to the check screen
-    QString KholPath;                               ///< WK file likewise
-    QString DisplayedTFN;                           ///< first values of the last electronic file displayed,
-    QString DisplayedTaxYear;                       ///< blank until the first is; the printed summary's bar code
-    QString DisplayedTaxMonth;                      ///< reads them
+    QString PrevSoftVersion;    ///< the version for which the first-run question came last
+    QString HogogPath;          ///< WH file handed from the writer to the check screen
+    QString KholPath;           ///< WK file likewise
+    QString DisplayedCodeShobe; ///< branch of the last salary list displayed, which a summary list lacks
+    QString DisplayedTFN;       ///< first values of the last electronic file displayed,
+    QString DisplayedTaxYear;   ///< blank until the first is; the printed summary's bar code
+    QString DisplayedTaxMonth;  ///< reads them
     std::function<void(const QString &)> showPayer; ///< writes the payer's name into the main form's status bar
     QString ShownPayer;                             ///< what stands there, which the printed salary list bears
     QString SearchCallerName;                       ///< who opened the payee search

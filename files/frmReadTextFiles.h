@@ -140,7 +140,6 @@ private:
     [[nodiscard]] QString payerName() const;
 
     QString m_monthName; ///< of the file displayed last
-    QString m_codeShobe;
     QString m_hogogMonth;
     QString m_hogogYear;
     QString m_hogogHeading;

@@ -142,12 +142,12 @@ void frmReadTextFiles::showContents(FileKind kind, FileContents contents)
 {
     m_program.DisplayedTFN = contents.TFN;
     if (kind == FileKind::Wh)
-        m_codeShobe = contents.CodeShobe;
+        m_program.DisplayedCodeShobe = contents.CodeShobe;
     m_program.DisplayedTaxYear = contents.TaxYear;
     m_program.DisplayedTaxMonth = contents.TaxMonth;
     m_monthName = contents.monthName;
-    const QString file =
-        contents.TFN + u" - کد شعبه "_s + m_codeShobe + u" در "_s + m_monthName + u" ماه سال "_s + contents.TaxYear;
+    const QString file = contents.TFN + u" - کد شعبه "_s + m_program.DisplayedCodeShobe + u" در "_s + m_monthName
+                         + u" ماه سال "_s + contents.TaxYear;
     if (kind == FileKind::Wh)
         showHogog(std::move(contents), file);
     else
