@@ -229,6 +229,12 @@ bool FormWindow::keyPressed(Binder *binder, const QKeyEvent &event)
             m_menuBar->setActiveAction(m_menuBar->actions().constFirst());
             return true;
         }
+        if (*key == Key::F1) {
+            // Not into a run that draws now and then: it would stand still under the guide.
+            if (!event.isAutoRepeat() && !m_form.isBusy())
+                enter([this] { m_platform.showGuide(m_form.name()); });
+            return true;
+        }
         enterTyping(field, [&] { m_form.userKey(*key); });
         return true;
     }

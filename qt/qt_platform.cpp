@@ -5,11 +5,13 @@
 #include "core/mdlError.h"
 #include "core/platform/tool_process.h"
 #include "qt/form_window.h"
+#include "qt/guide_viewer.h"
 #include "qt/look.h"
 #include "qt/preview/preview_window.h"
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -155,6 +157,39 @@ void QtPlatform::waitWhileOpen(PreviewWindow &window)
 void QtPlatform::yield()
 {
     QCoreApplication::processEvents();
+}
+
+// The guide -----------------------------------------------------------------------------------------------------
+
+/// Beside the program, beside the program that a branch's copy lies under, or where a package puts it.
+QStringList QtPlatform::guideFolders() const
+{
+    const QString program = QCoreApplication::applicationDirPath();
+    QStringList folders{program + u"/guide"_s, program + u"/../guide"_s, program + u"/../share/zrvclient/guide"_s};
+    // A branch's copy of a packaged program lies with its user's data.
+    const QString packaged = QStandardPaths::locate(QStandardPaths::GenericDataLocation, u"zrvclient/guide"_s,
+                                                    QStandardPaths::LocateDirectory);
+    if (!packaged.isEmpty())
+        folders += packaged;
+    return folders;
+}
+
+void QtPlatform::showGuide(const QString &form)
+{
+    const QStringList candidates = guideFolders();
+    const QString folder = guideFolder(candidates);
+    if (folder.isEmpty()) {
+        QStringList clean;
+        for (const QString &candidate : candidates)
+            clean += QDir::toNativeSeparators(QDir::cleanPath(candidate));
+        messageBox(
+            box::Refusal, u" اخطار  "_s,
+            u"راهنماي برنامه در هيچ يک از پوشه هاي زير يافت نشد. لطفا پوشه guide را کنار برنامه کپي نماييد :\r\n"_s
+                + clean.join(u"\r\n"_s));
+        return;
+    }
+    GuideViewer guide(folder, form, foremost());
+    runDialog(guide);
 }
 
 // Files ---------------------------------------------------------------------------------------------------------

@@ -63,6 +63,10 @@ public:
     /// Shows a dialogue of Qt's above all windows and returns when it is closed.
     void runDialog(QDialog &dialog);
 
+    /// Shows the users' guide, at the form's page, above all windows until the user closes it. Where there is none a box
+    /// says where it was looked for.
+    void showGuide(const QString &form);
+
     /// The one way from Qt into a screen's code: nothing that the action throws gets into Qt. A failure is shown in a
     /// box. What is no failure, as ProgramEnd, ends all nested loops and is thrown on by runModal when its own loop is
     /// over.
@@ -73,6 +77,8 @@ public:
     [[noreturn]] void throwOn() const;
 
 protected:
+    /// Where the guide may lie, in this order.
+    [[nodiscard]] virtual QStringList guideFolders() const;
     /// Returns when the preview is closed or the program is ending.
     virtual void waitWhileOpen(PreviewWindow &window);
     /// Returns when the form is closed or the program is ending. The form's window is shown and activated by then.
