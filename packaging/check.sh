@@ -28,11 +28,11 @@ inside() { chroot "$clean" env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UT
 as_clerk() { inside runuser -u clerk -- env HOME=/home/clerk DISPLAY="$DISPLAY" "$@"; }
 
 cp /etc/resolv.conf "$clean/etc/" 2>/dev/null || true
-cp "$deb" "$clean/tmp/zrvclient.deb"
+cp "$deb" "$clean/opt/zrvclient.deb"
 say "installing the package"
 inside apt-get -q -y purge zrvclient >/dev/null 2>&1 || true
 inside apt-get -q update >/dev/null
-inside apt-get -q -y install --no-install-recommends /tmp/zrvclient.deb >"$built/install.log" 2>&1 \
+inside apt-get -q -y install --no-install-recommends /opt/zrvclient.deb >"$built/install.log" 2>&1 \
     || fail "the package could not be installed (apt-get's words: $built/install.log)"
 inside id clerk >/dev/null 2>&1 || inside useradd -m clerk
 rm -rf "$clean/home/clerk/.local" "$road"
