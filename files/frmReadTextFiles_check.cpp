@@ -154,7 +154,7 @@ CheckOutcome frmReadTextFiles::runCheck(FileKind kind, CheckReport &report)
     } catch (const RunTimeError &failure) {
         return failedWith(failure);
     }
-    const CheckOutcome outcome = report.run(
+    CheckOutcome outcome = report.run(
         [&](const CheckPlace &place) { return run.goesOn(place.state.records, place.offset, report.fileSize()); });
     LabelWaitingMessage.setCaption(progressText(outcome.records));
     return outcome;
