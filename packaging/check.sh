@@ -3,6 +3,9 @@
 # check.sh: makes the packages, and proves the .deb in a Debian that holds nothing but itself: lintian, installation, the
 # first start with its store, the whole road through the windows, removal, and that the user's data stay.
 #
+# Not yet whole: the first start's box is seen, but the key that should close it doesn't reach it, and all that follows
+# waits there.
+#
 # Wants root (debootstrap), lintian, xvfb, herbstluftwm, xdotool and imagemagick; the clean Debian comes through the
 # network and stays in build/clean for the next time. Pictures of the first start are left in build/release.
 source "$(dirname "${BASH_SOURCE[0]}")/../cmake/setup.sh"
