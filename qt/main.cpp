@@ -13,13 +13,16 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     look::setUp(application);
     QtPlatform platform;
-    if (QtPlatform::isInstalledForAll() && !makeFirstStore(platform))
+    const bool isFirst = QtPlatform::isInstalledForAll() && isFirstStart(platform);
+    if (isFirst && !makeFirstStore(platform))
         return 1;
     const QString store = platform.programFolder() + u"/DBZorvan.mdb";
     StoreLock lock(store);
     if (!mayRun(platform, store, lock))
         return 0;
     const FirstWindow first(store, raiseWindows);
+    if (isFirst)
+        tellOfFirstStore(platform);
     runProgram(platform);
     return 0;
 }

@@ -21,11 +21,14 @@ QString holderOf(const StoreLock &lock)
 
 } // namespace
 
+bool isFirstStart(Platform &platform)
+{
+    return !QFileInfo::exists(platform.programFolder());
+}
+
 bool makeFirstStore(Platform &platform)
 {
     const QString folder = platform.programFolder();
-    if (QFileInfo::exists(folder))
-        return true;
     const ToolEnd end = platform.runTool(u"zrvstore"_s, {u"create"_s, folder});
     if (end.exitCode != 0) {
         platform.messageBox(box::Refusal, Refusal,
@@ -33,10 +36,14 @@ bool makeFirstStore(Platform &platform)
                                 + end.errors.trimmed());
         return false;
     }
-    platform.messageBox(box::Notice, u"توجه"_s,
-                        u"بانک اطلاعاتي برنامه در پوشه زير ايجاد گرديد : "_s + u"\r\n"_s + folder + u"\r\n"_s
-                            + u"نام کاربري : ADMIN"_s + u"\r\n"_s + u"رمز عبور : ADMIN"_s);
     return true;
+}
+
+void tellOfFirstStore(Platform &platform)
+{
+    platform.messageBox(box::Notice, u"توجه"_s,
+                        u"بانک اطلاعاتي برنامه در پوشه زير ايجاد گرديد : "_s + u"\r\n"_s + platform.programFolder()
+                            + u"\r\n"_s + u"نام کاربري : ADMIN"_s + u"\r\n"_s + u"رمز عبور : ADMIN"_s);
 }
 
 bool mayRun(Platform &platform, const QString &store, StoreLock &lock)

@@ -8,9 +8,15 @@
 
 namespace zrv {
 
-/// Makes the user's folder with an empty store in it, by zrvstore, and tells where. Only where there is no such folder
-/// yet: a store that went missing later is nothing to be silent about. False when that fails, which is told.
+/// Whether the user has no folder yet. A store that is missing in one is nothing to be silent about.
+[[nodiscard]] bool isFirstStart(Platform &platform);
+
+/// Makes the user's folder with an empty store in it, by zrvstore. False when that fails, which is told.
 [[nodiscard]] bool makeFirstStore(Platform &platform);
+
+/// Says where the first store lies and how to log in. To be called when the store is this program's alone: the box may
+/// stand for long, and a second start must find the first.
+void tellOfFirstStore(Platform &platform);
 
 /// One program works on a store at a time. A later start brings the first to the front, or says where it runs; false
 /// when this one has nothing left to do.

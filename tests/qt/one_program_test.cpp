@@ -155,10 +155,14 @@ TEST_F(OneProgram, WhereTheFirstDoesNotAnswerItIsSaidWhereItRuns)
 TEST_F(OneProgram, TheFirstStartMakesTheFolderWithAnEmptyStoreAndALaterOneDoesNot)
 {
     Told platform(m_folder.filePath(u"share/ZRVClient"_s));
+    EXPECT_TRUE(isFirstStart(platform));
     EXPECT_TRUE(makeFirstStore(platform));
+    EXPECT_EQ(platform.texts, QStringList());
+    tellOfFirstStore(platform);
     EXPECT_EQ(platform.texts.size(), 1);
+    EXPECT_TRUE(platform.texts.value(0).contains(platform.programFolder()));
     ASSERT_TRUE(QFile::remove(m_folder.filePath(u"share/ZRVClient/DBZorvan.mdb"_s))) << "it was made";
-    EXPECT_TRUE(makeFirstStore(platform));
+    EXPECT_FALSE(isFirstStart(platform));
     EXPECT_FALSE(QFile::exists(m_folder.filePath(u"share/ZRVClient/DBZorvan.mdb"_s)));
 }
 
