@@ -22,11 +22,12 @@ trap 'fail "stopped at line $LINENO of $(basename "${BASH_SOURCE[0]}"): $BASH_CO
 # One list a need, so that ./run fetches nothing that only the tests use.
 build_packages=(g++ cmake ninja-build qt6-base-dev libsqlite3-dev libzint-dev)
 window_packages=(fonts-noto-core qt6-translations-l10n)
-# The tests use a display of their own (xvfb with a window manager), readers of what is printed (PDF and bar codes) and
+# The tests use a display of their own (xvfb with a window manager) with the bus of screen readers (at-spi2-core, dbus,
+# gir1.2-atspi-2.0, python3-gi), readers of what is printed (PDF and bar codes) and
 # of old databases, and the tools that look after the sources; clang with its run-time library builds what is fuzzed;
 # clang-format and clang-tidy bring python3, the lints' language, which is named all the same.
-test_packages=(libgtest-dev libgmock-dev xvfb xauth herbstluftwm poppler-utils zbar-tools mdbtools sqlite3 python3
-    clang-format clang-tidy clang-14 libclang-rt-14-dev)
+test_packages=(libgtest-dev libgmock-dev xvfb xauth herbstluftwm at-spi2-core dbus gir1.2-atspi-2.0 python3-gi
+    poppler-utils zbar-tools mdbtools sqlite3 python3 clang-format clang-tidy clang-14 libclang-rt-14-dev)
 
 # missing_packages NAME...: those of the named packages that dpkg does not call installed, one a line.
 missing_packages() {

@@ -4,6 +4,7 @@
 #include "core/basic/number_format.h"
 #include "core/mdlError.h"
 #include "core/store/connection.h"
+#include "core/store/store_file.h"
 #include "core/store_rows.h"
 
 #include <utility>
@@ -109,6 +110,8 @@ void BrowsePanel::reporting(const std::function<void()> &routine)
         if (m_query.report == FailureReport::ErrorBox)
             throw;
         ShowInlineError(m_screen.program().platform, failure);
+    } catch (const StatementStopped &) {
+        // The user wouldn't wait for it: the rows stay as they are.
     }
 }
 

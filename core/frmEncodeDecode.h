@@ -17,7 +17,7 @@ public:
     Button cmdEncode{*this, u"cmdEncode"_s, {.caption = u"Encode"_s}};
     TextBox txtDecode{*this, u"txtDecode"_s, {.leftToRight = true}};
     Button cmdDecode{*this, u"cmdDecode"_s, {.caption = u"Decoed"_s}};
-    Label lblResult{*this, u"lblResult"_s};
+    Label lblResult{*this, u"lblResult"_s, {.leftToRight = true}};
     // clang-format on
 
 private:

@@ -37,6 +37,15 @@ bool keepCopyBeforeStep(const Program &program)
     }
 }
 
+void keepCopyBesideAnother(const Program &program)
+{
+    try {
+        keepCopy(program);
+    } catch (const RunTimeError &) {
+        // The way back is the step's own copy, or the user has just said to do without one.
+    }
+}
+
 void refuseDamagedStore(const Program &program)
 {
     const QString store = storeFilePath(program.StoreConnectionString);

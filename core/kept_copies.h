@@ -9,6 +9,9 @@ namespace zrv {
 /// without; false when the user would rather not.
 [[nodiscard]] bool keepCopyBeforeStep(const Program &program);
 
+/// The same for a step that makes a copy of its own, and tells and asks of that one: says nothing when it can't.
+void keepCopyBesideAnother(const Program &program);
+
 /// Keeps a dated copy when the program is left, and tells if it can't. Nothing happens in a run without a login.
 void keepCopyAtLeaving(const Program &program);
 

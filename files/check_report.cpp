@@ -238,12 +238,25 @@ CheckOutcome CheckReport::run(const BeforeLine &beforeLine)
     if (passesOver)
         runPassingOver(writer, measure, beforeLine);
     else
-        m_outcome = m_check.run(writer, [&](const CheckPlace &place) {
-            addMark(place, measure);
-            return !beforeLine || beforeLine(place);
-        });
+        runTelling(writer, measure, beforeLine);
     m_end = {measure.lines() + (measure.isInLine() ? 1 : 0), measure.length()};
     return m_outcome;
+}
+
+void CheckReport::runTelling(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine)
+{
+    ReportMeasure before; // the line that is looked at
+    qint64 line = -1;
+    m_outcome = m_check.run(writer, [&](const CheckPlace &place) {
+        if (std::exchange(line, place.offset) != place.offset) {
+            before = measure;
+            addMark(place, measure);
+        }
+        return !beforeLine || beforeLine(place);
+    });
+    // A line in which the run ended isn't told of.
+    if (m_outcome.end == CheckEnd::Cancelled)
+        measure = before;
 }
 
 /// Most lines of a salary list have nothing wrong in them: these are measured without being told of, beside the check.
@@ -253,21 +266,33 @@ void CheckReport::runPassingOver(ReportWriter &writer, ReportMeasure &measure, c
     ReportMeasure ofLines;
     ReportGauge gauge(m_check.rules(), m_check.options(), m_path, ofLines,
                       [&](const CheckPlace &place) { addMark(place, ofLines); });
+    ReportMeasure head;
+    CheckPlace line;
+    bool isLooking = false; // at that line; the gauge looks at it when the check has come to its end
+    const auto goesOn = [&] { return !beforeLine || beforeLine(line); };
     std::optional<GaugeThread> thread;
     m_outcome = m_check.run(events, [&](const CheckPlace &place) {
         if (!thread) {
+            head = measure;
             ofLines = ReportMeasure(measure.lines(), measure.length());
-            thread.emplace(gauge);
+            thread.emplace(gauge, goesOn);
         }
-        const bool goesOn = !beforeLine || beforeLine(place);
-        if (goesOn)
-            thread->look(place);
-        return goesOn;
+        if (isLooking && place.offset != line.offset)
+            thread->look(line);
+        line = place;
+        return isLooking = goesOn();
     });
     if (!thread)
         return;
     try {
-        thread->finish();
+        if (isLooking)
+            thread->look(line);
+        if (!thread->finish()) {
+            m_outcome.end = CheckEnd::Cancelled;
+            m_outcome.records = gauge.place().state.records;
+            m_outcome.errors = gauge.place().state.errors;
+            measure = head;
+        }
         gauge.passTo({.offset = 0, .state = {.records = m_outcome.records, .errors = m_outcome.errors}});
     } catch (const RunTimeError &failure) {
         // The file has gone while the check read on.

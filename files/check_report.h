@@ -78,6 +78,7 @@ private:
     class ErrorSearch;
     class PlaceSearch;
 
+    void runTelling(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine);
     void runPassingOver(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine);
     void addMark(const CheckPlace &place, const ReportMeasure &measure);
     void make(ReportWriter &writer, const std::vector<Mark>::const_iterator &from, const BeforeLine &beforeLine);

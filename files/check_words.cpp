@@ -104,6 +104,13 @@ QString extraWords(const FileRules &rules, const Finding &finding)
            + QString::number(code < 0 ? u'?' : code) + ExtraEnds;
 }
 
+/// As much of a text of the file as a list shows.
+QString beginningOf(QStringView text)
+{
+    constexpr qsizetype MostShown = 200;
+    return text.size() > MostShown ? text.first(MostShown) + u"…"_s : text.toString();
+}
+
 bool isControl(QChar letter)
 {
     return letter < u' ' || (letter >= u'\x7f' && letter < u'\xa0') || letter == QChar::LineSeparator
@@ -145,16 +152,17 @@ QString findingWords(const FileRules &rules, const Finding &finding, QStringView
 
 QString findingLine(const FileRules &rules, const Finding &finding, QStringView programVersion)
 {
-    constexpr qsizetype MostShown = 200;
     Finding shown = finding;
-    QString beginning;
+    const QString value = beginningOf(finding.value);
+    const QString version = beginningOf(finding.version);
     // A rule looks for its letter in the whole field; only an extra field is shown itself.
-    if (finding.kind == FindingKind::ExtraField && finding.value.size() > MostShown) {
-        beginning = finding.value.first(MostShown) + u"…"_s;
-        shown.value = beginning;
-    }
+    if (finding.kind == FindingKind::ExtraField)
+        shown.value = value;
+    shown.version = version;
     QString words = findingWords(rules, shown, programVersion);
-    words.truncate(words.indexOf(u"\r\n"_s) < 0 ? words.size() : words.indexOf(u"\r\n"_s));
+    // The second line is the last one: the version that a file names may have line ends of its own.
+    if (finding.kind == FindingKind::FieldCount || finding.kind == FindingKind::OtherVersion)
+        words.truncate(words.lastIndexOf(u"\r\n"_s));
     words = Trim(words);
     std::ranges::replace_if(words, isControl, QChar(QChar::ReplacementCharacter));
     return words;

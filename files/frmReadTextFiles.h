@@ -81,6 +81,7 @@ public:
 
 protected:
     void Form_Load() override;
+    bool Form_KeyDown(Key key) override;
 
 private:
     /// Pages of SSTab1.
@@ -114,17 +115,19 @@ private:
     void chooseFile(FileKind asked, FileKind other);
 
     void checkStructure(FileKind kind);
-    [[nodiscard]] CheckOutcome runCheck(FileKind kind, CheckReport &report);
+    [[nodiscard]] CheckOutcome runCheck(CheckReport &report);
+    void showReport(FileKind kind, const std::shared_ptr<CheckReport> &report);
     [[nodiscard]] CheckOptions checkOptions(FileKind kind) const;
     [[nodiscard]] bool isLogged(FileKind kind) const;
     [[nodiscard]] QString logPath() const;
-    void beginLog();
+    [[nodiscard]] bool beginLog();
     void writeLog(CheckReport &report);
     void tellOddities(const FileOddities &oddities);
     void showPlace(FileKind kind, qint64 line);
     [[nodiscard]] bool hasContents(FileKind kind);
 
     void wireContents();
+    [[nodiscard]] std::shared_ptr<const RowSource> openPayees(const QString &select);
     [[nodiscard]] bool loadFile(FileKind kind);
     [[nodiscard]] bool isRefused(FileKind kind);
     void dropContents(FileKind kind);

@@ -3,6 +3,7 @@
 #include "core/basic/run_time_error.h"
 #include "core/basic/safe_file.h"
 #include "core/mdlPublic.h"
+#include "files/checked_lines.h"
 #include "files/contents_columns.h"
 #include "files/frmReadTextFiles_controls.h"
 #include "files/report_writer.h"
@@ -17,31 +18,11 @@ constexpr qint64 DrawEveryMs = 50;
 const QString WaitingText = u"در حال خواندن و کنترل صحت اطلاعات فايل متني ، لطفا منتظر بمانيد ...  "_s;
 const QString LogFolder = u"/ErrorLog"_s;
 
-/// A check's report for the box that shows it.
-class CheckedLines : public ReportLines {
-public:
-    explicit CheckedLines(std::shared_ptr<CheckReport> report)
-        : m_report(std::move(report))
-    {
-    }
-
-    [[nodiscard]] qint64 lineCount() override { return m_report->lineCount(); }
-    [[nodiscard]] qint64 length() override { return m_report->length(); }
-    [[nodiscard]] QString lines(qint64 first, qint64 count) override { return m_report->lines(first, count); }
-    [[nodiscard]] qint64 nextError(qint64 line) override { return m_report->nextError(line); }
-
-private:
-    std::shared_ptr<CheckReport> m_report;
-};
-
-CheckOutcome failedWith(const RunTimeError &failure)
+/// The box of a log that can't be made, which is that of a check's failures.
+ClosingBox logFailure(const RunTimeError &failure)
 {
-    CheckOutcome outcome;
-    outcome.end = CheckEnd::Failed;
-    outcome.showsReport = false;
-    outcome.failure = failure.number();
-    outcome.description = failure.description();
-    return outcome;
+    return *closingBox(FileKind::Wh,
+                       {.end = CheckEnd::Failed, .failure = failure.number(), .description = failure.description()});
 }
 
 } // namespace
@@ -112,6 +93,23 @@ void frmReadTextFiles::cmdCheckKholStructure_Click()
     checkStructure(FileKind::Wk);
 }
 
+/// After a check the keyboard is still at the check's button, and the first thing asked for is the first error: F8 finds
+/// it from wherever the keyboard is, and takes it there, so that Enter leads on to the field.
+bool frmReadTextFiles::Form_KeyDown(Key key)
+{
+    if (key != Key::F8)
+        return false;
+    ReportBox *const box = SSTab1.page() == HogogStructurePage  ? &txtHogogStructure
+                           : SSTab1.page() == KholStructurePage ? &txtKholStructure
+                                                                : nullptr;
+    // The report and its field for a word have keys of their own.
+    if (!box || (activeControl() && activeControl()->name().startsWith(box->name())))
+        return false;
+    if (box->goToNextError())
+        box->setFocus();
+    return true;
+}
+
 CheckOptions frmReadTextFiles::checkOptions(FileKind kind) const
 {
     const bool isWh = kind == FileKind::Wh;
@@ -122,6 +120,8 @@ CheckOptions frmReadTextFiles::checkOptions(FileKind kind) const
 
 void frmReadTextFiles::checkStructure(FileKind kind)
 {
+    if (isLogged(kind) && !beginLog())
+        return;
     const FileControls controls = controlsOf(kind);
     controls.box.setLines(nullptr);
     controls.report.reset();
@@ -130,30 +130,33 @@ void frmReadTextFiles::checkStructure(FileKind kind)
     const auto report = std::make_shared<CheckReport>(kind, controls.path, checkOptions(kind), [this] {
         return QString(SolarDate(m_platform.today()) + u" - "_s + m_platform.timeOfDay().toString(u"HH:mm:ss"_s));
     });
-    const CheckOutcome outcome = runCheck(kind, *report);
+    const CheckOutcome outcome = runCheck(*report);
+    // Of a run that its user ended, too, what it had found by then is of use.
+    const bool isShown = outcome.showsReport || outcome.end == CheckEnd::Cancelled;
+    // A summary list's report is there when the box tells of the end; a salary list's comes behind box and log.
+    if (isShown && kind == FileKind::Wk)
+        showReport(kind, report);
     if (const std::optional<ClosingBox> closing = closingBox(kind, outcome))
         messageBox(closing->style, closing->title, closing->text);
     tellOddities(outcome.oddities);
     // Before the report is on the screen: it has one reader at a time.
     if (isLogged(kind) && outcome.end == CheckEnd::Finished)
         writeLog(*report);
-    // Of a run that its user ended, too, what it had found by then is of use.
-    if (!outcome.showsReport && outcome.end != CheckEnd::Cancelled)
-        return;
+    if (isShown && kind == FileKind::Wh)
+        showReport(kind, report);
+}
+
+void frmReadTextFiles::showReport(FileKind kind, const std::shared_ptr<CheckReport> &report)
+{
+    const FileControls controls = controlsOf(kind);
     controls.report = report;
     controls.checked = controls.path;
     controls.box.setLines(std::make_shared<CheckedLines>(report));
 }
 
-CheckOutcome frmReadTextFiles::runCheck(FileKind kind, CheckReport &report)
+CheckOutcome frmReadTextFiles::runCheck(CheckReport &report)
 {
     Run run(*this);
-    try {
-        if (isLogged(kind))
-            beginLog();
-    } catch (const RunTimeError &failure) {
-        return failedWith(failure);
-    }
     CheckOutcome outcome = report.run(
         [&](const CheckPlace &place) { return run.goesOn(place.state.records, place.offset, report.fileSize()); });
     LabelWaitingMessage.setCaption(progressText(outcome.records));
@@ -192,11 +195,19 @@ bool frmReadTextFiles::isLogged(FileKind kind) const
     return kind == FileKind::Wh && chkCreatHogogErrorLogFile.isChecked();
 }
 
-/// The log of a run that doesn't come to its end is empty, and none of an earlier run.
-void frmReadTextFiles::beginLog()
+/// The log of a run that doesn't come to its end is empty, and none of an earlier run. False where it can't be made:
+/// then nothing is checked, and what an earlier run has shown stays.
+bool frmReadTextFiles::beginLog()
 {
-    EnsureFolder(m_platform.programFolder() + LogFolder);
-    SafeFile(logPath()).commit();
+    try {
+        EnsureFolder(m_platform.programFolder() + LogFolder);
+        SafeFile(logPath()).commit();
+        return true;
+    } catch (const RunTimeError &failure) {
+        const ClosingBox told = logFailure(failure);
+        messageBox(told.style, told.title, told.text);
+        return false;
+    }
 }
 
 void frmReadTextFiles::writeLog(CheckReport &report)
@@ -210,7 +221,7 @@ void frmReadTextFiles::writeLog(CheckReport &report)
         log.finish();
         file.commit();
     } catch (const RunTimeError &failure) {
-        const ClosingBox told = *closingBox(FileKind::Wh, failedWith(failure));
+        const ClosingBox told = logFailure(failure);
         messageBox(told.style, told.title, told.text);
     }
 }

@@ -37,9 +37,7 @@ void frmReadTextFiles::wireContents()
         {.all = [] { return rowsOfTable(payeeContents()); },
          .search = [](const QString &sought) { return QString(rowsOfTable(payeeContents()) + u" WHERE "_s + sought); },
          .countFormat = u"#,##0"_s,
-         .open = [this](const QString &select) -> std::shared_ptr<const RowSource> {
-             return m_payees ? openRows(m_payees->rows(select)) : nullptr;
-         }},
+         .open = [this](const QString &select) { return openPayees(select); }},
         payeeContents().browseColumns());
     // Words are always sought as alternatives here.
     browse.chkAnd.setVisible(false);
@@ -48,6 +46,20 @@ void frmReadTextFiles::wireContents()
         panels(column);
         headClicked();
     };
+}
+
+/// A million rows are not searched or sorted in a moment: then it is a run like a check.
+std::shared_ptr<const RowSource> frmReadTextFiles::openPayees(const QString &select)
+{
+    constexpr int QuestionsOfAMoment = 10;
+    if (!m_payees)
+        return nullptr;
+    std::optional<Run> run;
+    return openRows(m_payees->rows(select, [&, asked = 0]() mutable {
+        if (!run && ++asked > QuestionsOfAMoment)
+            run.emplace(*this);
+        return !run || run->goesOn();
+    }));
 }
 
 /// Told on a click that chooses the column of a search, too.

@@ -14,6 +14,7 @@ namespace {
 
 constexpr QChar Separator = u',';
 constexpr int ControlField = 22;
+constexpr int FieldsBetweenQuestions = 16384;
 
 // Fields that other fields' rules look at.
 constexpr int PayerKind = 5;
@@ -129,7 +130,8 @@ int LineCheck::check(QStringView line, qint64 offset, const KnownLine &known)
         if (const int mismatch = checkFields(known.sound))
             return mismatch;
     }
-    checkSurplus();
+    if (!checkSurplus())
+        return GivenUp;
     ++m_state.records;
     return 0;
 }
@@ -310,16 +312,19 @@ void LineCheck::setFlags(int field, QStringView value)
         m_state.otherInsurance = Val(value) == OtherInsuranceCode;
 }
 
-void LineCheck::checkSurplus()
+/// False where the line is given up.
+bool LineCheck::checkSurplus()
 {
     const auto expected = static_cast<int>(m_line->fields.size());
     if (m_count <= expected)
-        return;
+        return true;
     // A line whose fields aren't checked still has the number of its first one.
     int number = m_line->kind == LineKind::Counted ? 1 : expected + 1;
     const QStringView last = m_fields[static_cast<std::size_t>(expected) - 1];
     QStringView rest(last.end() + 1, m_text.end());
     for (int place = expected + 1; place <= m_count; ++place) {
+        if (place % FieldsBetweenQuestions == 0 && m_goesOn && !m_goesOn())
+            return false;
         const qsizetype comma = rest.indexOf(Separator);
         const QStringView value = rest.first(comma < 0 ? rest.size() : comma);
         rest = rest.sliced(comma < 0 ? rest.size() : comma + 1);
@@ -330,6 +335,7 @@ void LineCheck::checkSurplus()
               .field = place,
               .value = value});
     }
+    return true;
 }
 
 void LineCheck::fail(Finding finding)

@@ -7,6 +7,7 @@
 #include "files/check_rules.h"
 
 #include <array>
+#include <functional>
 
 namespace zrv {
 
@@ -84,9 +85,14 @@ class LineCheck {
 public:
     LineCheck(const FileRules &rules, QStringView programVersion, CheckState &state, CheckEvents &events);
 
+    /// Asked now and then within a line of very many fields; false gives the line up.
+    void askInLongLines(std::function<bool()> goesOn) { m_goesOn = std::move(goesOn); }
+
+    static constexpr int GivenUp = -1;
     /// Checks the line, which lies so many bytes behind the file's beginning, and counts it as passed. The number of a
     /// field is returned where the run must end in a type mismatch, since it holds no number but is compared with one;
-    /// else 0. Of fields that are known to break no rule nothing is told.
+    /// GivenUp, without the line being counted, where it was not to go on; else 0. Of fields that are known to break no
+    /// rule nothing is told.
     int check(QStringView line, qint64 offset, const KnownLine &known = {});
 
 private:
@@ -105,7 +111,7 @@ private:
     void readNationalityAhead();
     [[nodiscard]] int comparedField(int field) const;
     void setFlags(int field, QStringView value);
-    void checkSurplus();
+    [[nodiscard]] bool checkSurplus();
     void fail(Finding finding);
 
     const FileRules &m_rules;
@@ -114,6 +120,7 @@ private:
     QStringView m_programVersion;
     CheckState &m_state;
     CheckEvents &m_events;
+    std::function<bool()> m_goesOn;
 
     const LineRules *m_line = nullptr;
     QStringView m_text;

@@ -23,6 +23,9 @@ WalkResult LineWalk::walk(CheckState &state, const BeforeLine &beforeLine)
 {
     const bool isWh = m_rules.kind == FileKind::Wh;
     LineCheck lines(m_rules, m_options.programVersion, state, m_events);
+    CheckState before;
+    if (beforeLine)
+        lines.askInLongLines([&] { return beforeLine({m_reader.offset(), before}); });
     FaultlessLines suspects(m_rules.rest, m_options.instructions, m_reader);
     const bool passesOver = isWh && m_events.wantsErrorsAlone() && !m_options.firstTwoLines;
     QStringView line;
@@ -39,7 +42,13 @@ WalkResult LineWalk::walk(CheckState &state, const BeforeLine &beforeLine)
             return {};
         if (beforeLine && !beforeLine({m_reader.offset(), state}))
             return {.end = WalkEnd::Cancelled};
-        if (const int field = lines.check(line, m_reader.offset(), suspects.known()))
+        before = state;
+        const int field = lines.check(line, m_reader.offset(), suspects.known());
+        if (field == LineCheck::GivenUp) {
+            state = before;
+            return {.end = WalkEnd::Cancelled};
+        }
+        if (field > 0)
             return {.end = WalkEnd::Mismatch, .field = field};
     }
     return {.end = m_reader.isAtEnd() ? WalkEnd::Finished : WalkEnd::Stopped};

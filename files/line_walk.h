@@ -29,8 +29,8 @@ struct CheckPlace {
     CheckState state;
 };
 
-/// Called before each line that is looked at field by field, with events that want errors alone now and then. False
-/// cancels the run.
+/// Called before each line that is looked at field by field, with events that want errors alone now and then; within a
+/// line of very many fields again, with the same place. False cancels the run before that line.
 using BeforeLine = std::function<bool(const CheckPlace &)>;
 
 enum class WalkEnd {

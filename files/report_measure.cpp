@@ -36,7 +36,7 @@ ReportGauge::ReportGauge(const FileRules &rules, const CheckOptions &options, co
 
 ReportGauge::~ReportGauge() = default;
 
-void ReportGauge::measureLine(const CheckPlace &place)
+bool ReportGauge::measureLine(const CheckPlace &place)
 {
     if (!m_reader) {
         m_reader = std::make_unique<LineReader>(m_path, m_options.blockUnits);
@@ -46,12 +46,20 @@ void ReportGauge::measureLine(const CheckPlace &place)
     m_onLine(m_place);
     QStringView line;
     if (!m_reader->next(line))
-        return;
+        return true;
     const ReportClock noClock;
+    const ReportMeasure before = m_measure;
     ReportWriter writer(m_rules, m_options, noClock, m_measure);
-    LineCheck(m_rules, m_options.programVersion, m_place.state, writer).check(line, place.offset);
+    LineCheck check(m_rules, m_options.programVersion, m_place.state, writer);
+    check.askInLongLines([this] { return !m_givesUp; });
+    if (check.check(line, place.offset) == LineCheck::GivenUp) {
+        m_measure = before;
+        m_place = place;
+        return false;
+    }
     m_place.state.records = place.state.records + 1;
     m_place.offset += (line.size() + 2) * qint64(sizeof(QChar));
+    return true;
 }
 
 void ReportGauge::passTo(const CheckPlace &place)
@@ -154,7 +162,7 @@ ReportMeasure ReportGauge::measured(QStringView line, qint64 records)
     const ReportClock noClock;
     ReportWriter writer(m_rules, m_options, noClock, measure);
     CheckState state{.records = records};
-    LineCheck(m_rules, m_options.programVersion, state, writer).check(line, 0);
+    (void)LineCheck(m_rules, m_options.programVersion, state, writer).check(line, 0);
     return measure;
 }
 

@@ -8,6 +8,7 @@
 #include "files/report_writer.h"
 #include "files/structure_check.h"
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <unordered_map>
@@ -79,8 +80,13 @@ public:
 
     /// Measures the faultless lines before the place, which is where the check stands.
     void passTo(const CheckPlace &place);
-    /// Measures the line at that place, whatever it has.
-    void measureLine(const CheckPlace &place);
+    /// Measures the line at that place, whatever it has. False where it was given up: then the gauge stands before it.
+    [[nodiscard]] bool measureLine(const CheckPlace &place);
+    /// Where it stands; the errors are those of the line that was looked at last.
+    [[nodiscard]] const CheckPlace &place() const { return m_place; }
+
+    /// A line of very many fields isn't measured to its end from now on; from any thread.
+    void giveUpLongLines() { m_givesUp = true; }
 
 private:
     /// What the report says of the lines of a form, apart from the fields' letters and the line number's digits.
@@ -104,6 +110,7 @@ private:
     OnLine m_onLine;
     std::unique_ptr<LineReader> m_reader;
 
+    std::atomic<bool> m_givesUp = false;
     CheckPlace m_place; ///< of the line to come
     int m_digits = 1;   ///< of its number
     qint64 m_nextDigit = 10;

@@ -23,14 +23,16 @@ QStringView listOf(FileKind kind, const Field &field)
     return isSummary ? report_words::OfSummaryList : report_words::OfSalaryList;
 }
 
-/// The words of a wrong number of fields are of two lines; those of an empty file begin on the next one.
+/// The words of a wrong number of fields are of two lines, and those of an empty file begin on the next one. 0 where the
+/// words alone tell: the version that a file names may have line ends of its own.
 int linesOf(FindingKind kind)
 {
     switch (kind) {
     case FindingKind::FieldCount:
-    case FindingKind::OtherVersion:
     case FindingKind::EmptyFile:
         return 2;
+    case FindingKind::OtherVersion:
+        return 0;
     default:
         return 1;
     }
@@ -50,8 +52,9 @@ ReportWriter::ReportWriter(const FileRules &rules, const CheckOptions &options, 
 
 void ReportWriter::finding(const Finding &finding)
 {
-    if (!m_sink.wantsText()) {
-        for (int line = linesOf(finding.kind); line > 0; --line)
+    const int lines = linesOf(finding.kind);
+    if (lines > 0 && !m_sink.wantsText()) {
+        for (int line = 0; line < lines; ++line)
             m_sink.endLine();
         return;
     }

@@ -122,7 +122,9 @@ CheckOutcome StructureCheck::walk(const CheckPlace &from, CheckEvents &events, c
     case WalkEnd::Cancelled:
         return {.end = CheckEnd::Cancelled, .records = state.records, .errors = state.errors};
     case WalkEnd::Mismatch: {
-        const QString place = QString::number(result.field) + u" از خط شماره "_s + QString::number(state.records + 1);
+        const LineRules &line = state.records == 0 ? m_rules.first : m_rules.rest;
+        const QString place = QString::number(result.field) + line.fields[static_cast<size_t>(result.field - 1)].label
+                              + u" از خط شماره "_s + QString::number(state.records + 1);
         return {.end = CheckEnd::Failed,
                 .records = state.records,
                 .errors = state.errors,

@@ -70,7 +70,11 @@ void AreaEdit::showSelection()
     const QScopedValueRollback showing(m_showing, true);
     const QString &text = m_edit.text();
     const qsizetype start = shownLines(text.first(m_edit.selStart())).size();
-    selectIn(*this, start, shownLines(text.mid(m_edit.selStart(), m_edit.selLength())).size());
+    const qsizetype length = shownLines(text.mid(m_edit.selStart(), m_edit.selLength())).size();
+    // Set anew, a selection that the user draws out backwards would turn round and shrink with the next key.
+    const QTextCursor cursor = textCursor();
+    if (!cursor.hasSelection() || cursor.selectionStart() != start || cursor.selectionEnd() != start + length)
+        selectIn(*this, start, length);
 }
 
 void AreaEdit::showLocked()

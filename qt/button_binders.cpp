@@ -2,6 +2,7 @@
 #include "qt/button_binders.h"
 
 #include "qt/form_window.h"
+#include "qt/icons.h"
 #include "qt/mnemonics.h"
 
 #include <QCheckBox>
@@ -26,7 +27,7 @@ void passClicks(QAbstractButton &widget, FormWindow &window, Binder &binder)
 /// The caption in two lines where the display has no room for it in one.
 QString inTheRoomOf(const QWidget &widget, QString caption)
 {
-    constexpr int Beside = 120; // the box itself, and what is drawn around it
+    constexpr int Beside = 120; // the box or the drawing, and what lies around it
     if (widget.fontMetrics().horizontalAdvance(caption) > widget.screen()->availableSize().width() - Beside) {
         const qsizetype blank = caption.indexOf(u' ', caption.size() / 2);
         if (blank >= 0)
@@ -43,6 +44,8 @@ ButtonBinder::ButtonBinder(Button &button, FormWindow &window)
     , m_widget(new QPushButton(window.groundOf(button.container())))
 {
     adopt(*m_widget);
+    if (const QString name = look::iconName(form().name(), button.name()); !name.isEmpty())
+        m_widget->setIcon(look::icon(name));
     passClicks(*m_widget, window, *this);
 }
 
@@ -56,6 +59,7 @@ void ButtonBinder::refresh(Aspect aspect)
     switch (aspect) {
     case Aspect::Caption:
         m_window.mnemonics().show(*m_widget, m_button);
+        m_widget->setText(inTheRoomOf(*m_widget, m_widget->text()));
         break;
     case Aspect::DefaultOrCancel:
         m_widget->setDefault(m_button.isDefault());
@@ -97,9 +101,13 @@ OptionBinder::OptionBinder(OptionButton &option, FormWindow &window)
     , m_widget(new QRadioButton(window.groundOf(option.container())))
 {
     adopt(*m_widget);
-    // The form clears the others of the group.
-    m_widget->setAutoExclusive(false);
     passClicks(*m_widget, window, *this);
+    // Qt has cleared the others of the group; the form may have refused.
+    QObject::connect(m_widget, &QAbstractButton::clicked, m_widget, [this] {
+        for (const Control *other : m_option.container().children())
+            if (other->kind() == ControlKind::OptionButton)
+                m_window.binderOf(*other).refresh(Aspect::Checked);
+    });
 }
 
 QWidget *OptionBinder::widget() const
@@ -109,12 +117,16 @@ QWidget *OptionBinder::widget() const
 
 void OptionBinder::refresh(Aspect aspect)
 {
-    if (aspect == Aspect::Caption)
+    if (aspect == Aspect::Caption) {
         m_widget->setText(m_option.caption());
-    else if (aspect == Aspect::Checked)
+    } else if (aspect == Aspect::Checked) {
+        // An exclusive button, which a screen reader knows from a check box by that, can't be cleared by the form.
+        m_widget->setAutoExclusive(false);
         m_widget->setChecked(m_option.isChecked());
-    else
+        m_widget->setAutoExclusive(true);
+    } else {
         Binder::refresh(aspect);
+    }
 }
 
 bool OptionBinder::special(QEvent &event)

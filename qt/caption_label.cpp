@@ -136,9 +136,11 @@ void CaptionLabel::paintEvent(QPaintEvent *event)
     const QRectF room = contentsRect().adjusted(side, 0, -side, 0);
     const QTextLine line = shaped().lineAt(0);
     const double width = line.naturalTextWidth() * m_scale;
-    if (m_leftToRight && width > room.width()) {
-        const QString cut = fontMetrics().elidedText(text(), Qt::ElideMiddle, static_cast<int>(room.width()));
-        painter.drawText(room, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextForceLeftToRight, cut);
+    if (width > room.width() && !m_centred) {
+        const Qt::TextElideMode where = m_leftToRight ? Qt::ElideMiddle : Qt::ElideRight;
+        const int direction = m_leftToRight ? Qt::TextForceLeftToRight : Qt::TextForceRightToLeft;
+        painter.drawText(room, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | direction,
+                         fontMetrics().elidedText(text(), where, static_cast<int>(room.width())));
         return;
     }
     // A line of open width begins at the left whatever its direction.

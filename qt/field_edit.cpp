@@ -7,6 +7,7 @@
 #include "qt/form_window.h"
 
 #include <QClipboard>
+#include <QComboBox>
 #include <QDropEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -50,7 +51,15 @@ void FieldEdit::showText()
 void FieldEdit::showSelection()
 {
     const QScopedValueRollback showing(m_showing, true);
+    // Where nobody types, the beginning of a text too long for its field is what tells it from others.
+    if (!m_edit.hasFocus()) {
+        setCursorPosition(0);
+        return;
+    }
     const int start = static_cast<int>(m_edit.selStart());
+    // Set anew, a selection that the user draws out backwards would turn round and shrink with the next key.
+    if (hasSelectedText() && selectionStart() == start && selectionLength() == m_edit.selLength())
+        return;
     if (m_edit.selLength() > 0)
         setSelection(start, static_cast<int>(m_edit.selLength()));
     else
@@ -140,6 +149,31 @@ bool FieldEdit::keepsKey(const QKeyEvent &event)
     default:
         return false;
     }
+}
+
+void FieldEdit::focusInEvent(QFocusEvent *event)
+{
+    showSelection();
+    QLineEdit::focusInEvent(event);
+    redrawBox();
+}
+
+void FieldEdit::focusOutEvent(QFocusEvent *event)
+{
+    QLineEdit::focusOutEvent(event);
+    redrawBox();
+    // Left for its menu, its list or another program, the field still has the form's focus.
+    if (event->reason() == Qt::PopupFocusReason || event->reason() == Qt::ActiveWindowFocusReason)
+        return;
+    const QScopedValueRollback showing(m_showing, true);
+    setCursorPosition(0);
+}
+
+/// The ring of the focus is drawn by the list's box around the field.
+void FieldEdit::redrawBox()
+{
+    if (auto *const box = qobject_cast<QComboBox *>(parentWidget()))
+        box->update();
 }
 
 void FieldEdit::keyPressEvent(QKeyEvent *event)

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] static bool keepsKey(const QKeyEvent &event);
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void inputMethodEvent(QInputMethodEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
@@ -43,6 +45,7 @@ private:
     void restore(void (QLineEdit::*undoOrRedo)());
     void textEditedByWidget();
     void selectionMovedByWidget();
+    void redrawBox();
 
     Edit &m_edit;
     FormWindow &m_window;

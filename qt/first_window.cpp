@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QLocalSocket>
+#include <QThread>
 #include <QWidget>
 
 #include <utility>
@@ -16,6 +18,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int LongestWaitMs = 2'000;
+constexpr int PauseMs = 20;
 
 /// The same from whichever folder and by whichever link the program is started.
 QString serverName(const QString &store)
@@ -50,9 +53,18 @@ void FirstWindow::answer()
 
 bool FirstWindow::comesToTheFront(const QString &store)
 {
-    QLocalSocket socket;
-    socket.connectToServer(serverName(store));
-    return socket.waitForConnected(LongestWaitMs) && socket.waitForReadyRead(LongestWaitMs);
+    const QString name = serverName(store);
+    QDeadlineTimer end(LongestWaitMs);
+    const auto left = [&end] { return static_cast<int>(end.remainingTime()); };
+    while (!end.hasExpired()) {
+        QLocalSocket socket;
+        socket.connectToServer(name);
+        if (socket.waitForConnected(left()))
+            return socket.waitForReadyRead(left());
+        // The first may have taken the store a moment ago, as after a double click, and not listen yet.
+        QThread::msleep(PauseMs);
+    }
+    return false;
 }
 
 void raiseWindows()

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/form_window.h"
 
+#include "core/forms/spoken_name.h"
 #include "qt/binder.h"
 #include "qt/caption_label.h"
 #include "qt/keyboard.h"
 #include "qt/layouts/layouts.h"
 #include "qt/look.h"
 #include "qt/qt_platform.h"
+#include "qt/spoken_names.h"
 
 #include <QAction>
 #include <QApplication>
@@ -57,12 +59,13 @@ FormWindow::FormWindow(Form &form, QtPlatform &platform, QWidget *parent)
     layOut(*this);
     for (Control *control : form.controls())
         binderOf(*control).refreshAll();
-    setWindowTitle(form.caption());
+    captionChanged();
     form.setView(this);
 }
 
 FormWindow::~FormWindow()
 {
+    m_keptSize.reset();
     m_form.setView(nullptr);
     // Widgets that go still tell of pages and rows that go; nobody is to hear that, and the binders must outlive it.
     m_leaving = true;
@@ -136,6 +139,8 @@ void FormWindow::controlChanged(Control &control, Aspect aspect)
 {
     if (aspect != Aspect::DefaultOrCancel) {
         binderOf(control).refresh(aspect);
+        if (aspect == Aspect::Caption)
+            renameWidgets(*this, control);
         return;
     }
     // The role was taken from another button.
@@ -153,6 +158,8 @@ void FormWindow::focusMoved(Control *control)
 void FormWindow::captionChanged()
 {
     setWindowTitle(m_form.caption());
+    setAccessibleName(spokenText(m_form.caption()));
+    nameWidgets(*this);
 }
 
 void FormWindow::closed()
@@ -316,7 +323,7 @@ QSize FormWindow::groundSize() const
 
 void FormWindow::fit()
 {
-    const QSize room = screen()->availableSize() - QSize(8, 40); // what a window manager draws around it
+    const QSize room = KeptSize::room(*this);
     int bars = 0;
     for (const QWidget *bar : {static_cast<QWidget *>(m_menuBar), static_cast<QWidget *>(m_statusBar)})
         bars += bar ? bar->sizeHint().height() : 0;
@@ -329,9 +336,11 @@ void FormWindow::fit()
     const bool isHigh = wanted.height() + bars > room.height();
     const int beside = isHigh ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
     if (wanted.width() + beside > room.width()) {
+        constexpr int Around = 60; // the frames that a text may lie in
         for (const Control *control : m_form.controls())
-            if (auto *label = dynamic_cast<CaptionLabel *>(widgetFor(*control)))
-                label->setWordWrap(label->wordWrap() || label->isCentred());
+            if (auto *label = dynamic_cast<CaptionLabel *>(widgetFor(*control));
+                label && label->isCentred() && label->sizeHint().width() > room.width() - beside - Around)
+                label->setWordWrap(true);
         m_ground->setMinimumWidth(std::min(m_ground->minimumWidth(), room.width() - beside));
         wanted = groundSize();
     }
@@ -344,6 +353,9 @@ void FormWindow::fit()
     // A bar may have taken a little more than it asked for.
     const QWidget &body = m_scroll ? static_cast<QWidget &>(*m_scroll) : *m_ground;
     resize((size() + wanted - body.size()).boundedTo(room));
+    // What does not scroll can't be made smaller than it is seen whole.
+    if (!m_scroll)
+        setMinimumSize(layout()->totalMinimumSize().boundedTo(size()));
 }
 
 /// Only a screen that is too high for its display lies in an area that scrolls: making one takes its time.
@@ -362,6 +374,7 @@ void FormWindow::scroll()
 void FormWindow::open()
 {
     fit();
+    m_keptSize.emplace(*this, m_platform, m_form.name());
     const QWidget *const over = parentWidget();
     const QRect around = over && over->isVisible() ? over->frameGeometry() : screen()->availableGeometry();
     const QRect room = screen()->availableGeometry();

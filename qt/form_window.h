@@ -2,12 +2,14 @@
 #pragma once
 
 #include "core/forms/form.h"
+#include "qt/kept_size.h"
 #include "qt/mnemonics.h"
 
 #include <QWidget>
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 
 class QAction;
@@ -62,7 +64,7 @@ public:
     void captionChanged() override;
     void closed() override;
 
-    /// Shows the window over its parent, or in the middle of the display.
+    /// Shows the window over its parent, or in the middle of the display, in the size in which its user left it.
     void open();
     /// Puts Qt's focus where the form has it, unless a menu or a list is open over the window.
     void syncFocus();
@@ -89,6 +91,7 @@ private:
     QWidget *m_ground = nullptr;
     QMenuBar *m_menuBar = nullptr;
     QStatusBar *m_statusBar = nullptr;
+    std::optional<KeptSize> m_keptSize;
     const Control *m_typingIn = nullptr;
     bool m_leaving = false;
     std::unordered_map<const Control *, std::unique_ptr<Binder>> m_binders;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/grid_binder.h"
 
+#include "core/forms/spoken_name.h"
 #include "qt/form_window.h"
 
 #include <QAbstractTableModel>
@@ -42,9 +43,11 @@ public:
 
     [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override
     {
-        if (orientation == Qt::Horizontal && role == Qt::DisplayRole)
-            return column(section).caption;
-        return {};
+        if (orientation != Qt::Horizontal)
+            return {};
+        if (role == Qt::AccessibleTextRole)
+            return spokenText(column(section).caption);
+        return role == Qt::DisplayRole ? column(section).caption : QVariant();
     }
 
     [[nodiscard]] const GridColumn &column(int place) const { return m_grid.columns().at(static_cast<size_t>(place)); }

@@ -4,6 +4,7 @@
 #include "qt/caption_label.h"
 #include "qt/style.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
@@ -121,6 +122,8 @@ void colorField(QWidget &field, Color back, Color text)
     QPalette colors = field.palette();
     const auto set = [&](QPalette::ColorGroup group) {
         colors.setColor(group, QPalette::Base, QColor::fromRgb(solid(back)));
+        // Every other row of a grid: the same colour, a little deeper.
+        colors.setColor(group, QPalette::AlternateBase, QColor::fromRgb(solid(back)).darker(102));
         colors.setColor(group, QPalette::Text,
                         text == color::Text ? QColor::fromRgb(Ink) : QColor::fromRgb(solid(text)));
     };
@@ -189,6 +192,9 @@ void makeTile(QWidget &button)
 {
     button.setMinimumHeight(button.fontMetrics().height() * 2);
     button.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+    const int side = button.fontMetrics().height();
+    static_cast<QAbstractButton &>(button).setIconSize({side, side});
+    button.setProperty(IsTile, true);
 }
 
 // Drawings ------------------------------------------------------------------------------------------------------
@@ -251,13 +257,23 @@ void Ground::paintEvent(QPaintEvent *event)
         return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(Qt::NoBrush);
-    // Stars in rows that are set off against each other, so faint that the buttons stay what is seen.
-    const double step = fontMetrics().height() * 3.0;
     painter.setPen(QPen(QColor::fromRgb(GroundLine), 1.2));
-    int row = 0;
-    for (double y = 0; y < height() + step; y += step / 2, ++row)
-        for (double x = row % 2 ? step / 2 : 0; x < width() + step; x += step)
-            painter.drawPath(star({x, y}, step * 0.22).simplified());
+    // Stars that touch with their points, as tiles on a wall: what is left between four of them is a cross.
+    const double step = fontMetrics().height() * 2.6;
+    const QPainterPath one = star({0, 0}, step / 2).simplified();
+    const QPointF middle = QRectF(rect()).center();
+    const auto steps = [step](double room) { return static_cast<int>(std::ceil(room / step)); };
+    for (int row = -steps(middle.y()); row <= steps(middle.y()); ++row)
+        for (int column = -steps(middle.x()); column <= steps(middle.x()); ++column)
+            painter.drawPath(one.translated(middle + QPointF(column, row) * step));
+    // Where the buttons are, it fades away.
+    QColor veil = QWidget::palette().color(QPalette::Window);
+    QRadialGradient fading(middle, std::max(width(), height()) * 0.6);
+    fading.setColorAt(0, veil);
+    fading.setColorAt(0.5, veil);
+    veil.setAlpha(0);
+    fading.setColorAt(1, veil);
+    painter.fillRect(rect(), fading);
 }
 
 } // namespace zrv::look

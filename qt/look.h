@@ -38,7 +38,7 @@ void makeRemark(QWidget &label);
 void makeValue(QWidget &label);
 /// A field in which typing starts a search: it wears the red border by which tooltips speak of these.
 void makeSearching(QWidget &field);
-/// A button that leads to another screen: tall, so that it is found by eye.
+/// A button that leads to another screen: tall, so that it is found by eye, with its drawing before its caption.
 void makeTile(QWidget &button);
 
 /// The program's mark, as large as its letters ask.

@@ -13,7 +13,7 @@ int main(int argc, char *argv[])
     QApplication application(argc, argv);
     look::setUp(application);
     QtPlatform platform;
-    const bool isFirst = QtPlatform::isInstalledForAll() && isFirstStart(platform);
+    const bool isFirst = isFirstStart(platform, QtPlatform::isInstalledForAll());
     if (isFirst && !makeFirstStore(platform))
         return 1;
     const QString store = platform.programFolder() + u"/DBZorvan.mdb";

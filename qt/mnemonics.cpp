@@ -147,13 +147,19 @@ void Mnemonics::show(QAbstractButton &widget, const Button &button)
     }
     widget.setProperty(MarkPlace, mark);
     widget.setText(caption);
+    // A letter that no mark shows has to be said.
+    const bool isMarked = caption.contains(u'&') || letterOf(button).isNull();
+    widget.setAccessibleDescription(isMarked ? QString() : QString(u"Alt+"_s + letterOf(button)));
 }
 
 QString Mnemonics::captionOf(const QAbstractButton &widget)
 {
     const QVariant mark = widget.property(MarkPlace);
     QString caption = widget.text();
-    return mark.isValid() ? caption.remove(mark.toLongLong(), 1) : caption;
+    if (mark.isValid())
+        caption.remove(mark.toLongLong(), 1);
+    // A long one is shown in two lines where the display is narrow.
+    return caption.replace(u'\n', u' ');
 }
 
 Button *Mnemonics::pressedBy(const QKeyEvent &event) const

@@ -6,6 +6,7 @@
 #include "core/platform/tool_process.h"
 #include "qt/form_window.h"
 #include "qt/guide_viewer.h"
+#include "qt/kept_size.h"
 #include "qt/look.h"
 #include "qt/preview/preview_window.h"
 
@@ -15,6 +16,7 @@
 #include <QEventLoop>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QScreen>
 #include <QSettings>
 #include <QStandardPaths>
@@ -129,6 +131,12 @@ void QtPlatform::runDialog(QDialog &dialog)
 {
     dialog.setWindowModality(Qt::ApplicationModal);
     QObject::connect(&dialog, &QDialog::finished, &dialog, [this] { wake(); });
+    std::optional<KeptSize> keptSize;
+    if (!dialog.objectName().isEmpty() && !qobject_cast<QMessageBox *>(&dialog)) {
+        if (!dialog.testAttribute(Qt::WA_Resized))
+            dialog.adjustSize();
+        keptSize.emplace(dialog, *this, dialog.objectName());
+    }
     dialog.show();
     waitUntil([&] { return !dialog.isVisible(); });
     if (isEnding())

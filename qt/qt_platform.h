@@ -60,7 +60,8 @@ public:
     /// The open preview; null when there is none.
     [[nodiscard]] PreviewWindow *previewWindow() const { return m_preview; }
 
-    /// Shows a dialogue of Qt's above all windows and returns when it is closed.
+    /// Shows a dialogue of Qt's above all windows and returns when it is closed. One that has a
+    /// name and is no box keeps its size.
     void runDialog(QDialog &dialog);
 
     /// Shows the users' guide, at the form's page, above all windows until the user closes it. Where there is none a box

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/start.h"
 
+#include "core/store/store_backups.h"
 #include "qt/first_window.h"
 
 #include <QDir>
@@ -21,16 +22,23 @@ QString holderOf(const StoreLock &lock)
 
 } // namespace
 
-bool isFirstStart(Platform &platform)
+const QString PortableSign = u"portable.txt"_s;
+
+bool isFirstStart(Platform &platform, bool isInstalledForAll)
 {
-    return !QFileInfo::exists(platform.programFolder());
+    const QDir folder(platform.programFolder());
+    if (isInstalledForAll)
+        return !folder.exists();
+    return folder.exists(PortableSign) && !folder.exists(u"DBZorvan.mdb"_s)
+           && !QFileInfo::exists(backupFolder(folder.filePath(u"DBZorvan.mdb"_s)));
 }
 
 bool makeFirstStore(Platform &platform)
 {
     const QString folder = platform.programFolder();
     const ToolEnd end = platform.runTool(u"zrvstore"_s, {u"create"_s, folder});
-    if (end.exitCode != 0) {
+    // Of two programs that are started at once the other may have been quicker.
+    if (end.exitCode != 0 && !QFileInfo::exists(folder + u"/DBZorvan.mdb"_s)) {
         platform.messageBox(box::Refusal, Refusal,
                             u"بانک اطلاعاتي برنامه ايجاد نگرديد . پوشه : "_s + folder + u"\r\n"_s
                                 + end.errors.trimmed());

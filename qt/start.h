@@ -8,10 +8,16 @@
 
 namespace zrv {
 
-/// Whether the user has no folder yet. A store that is missing in one is nothing to be silent about.
-[[nodiscard]] bool isFirstStart(Platform &platform);
+/// Whether nothing was ever kept here: of a program that is installed for all, the user has no folder yet; a portable
+/// folder, which PortableSign tells, holds neither store nor copies. Elsewhere, and later, a store that is missing is
+/// nothing to be silent about.
+[[nodiscard]] bool isFirstStart(Platform &platform, bool isInstalledForAll);
 
-/// Makes the user's folder with an empty store in it, by zrvstore. False when that fails, which is told.
+/// A file that lies beside the program in the portable folder and in no other.
+extern const QString PortableSign;
+
+/// Makes the program's folder, if it is missing, with an empty store in it, by zrvstore. False when that fails, which is
+/// told.
 [[nodiscard]] bool makeFirstStore(Platform &platform);
 
 /// Says where the first store lies and how to log in. To be called when the store is this program's alone: the box may

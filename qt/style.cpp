@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/style.h"
 
+#include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyleFactory>
 #include <QStyleOption>
@@ -67,6 +69,50 @@ QColor buttonGround(const QStyleOptionButton &option)
     if (option.state & QStyle::State_MouseOver && option.state & QStyle::State_Enabled)
         return isDefault ? base.lighter(118) : QColor(Qt::white);
     return base;
+}
+
+bool isTile(const QStyleOptionButton &button, const QWidget *widget)
+{
+    return widget && !button.icon.isNull() && widget->property(IsTile).toBool();
+}
+
+// Of a tile: from its edge to its drawing's ground, from there to the caption, and around the drawing.
+constexpr int TileEdge = 10;
+constexpr int TileGap = 12;
+constexpr int TileInset = 8;
+constexpr int DrawingGap = 6; ///< between another button's drawing and its caption
+
+void paintDrawing(QPainter &painter, const QStyleOptionButton &button, const QRect &room)
+{
+    button.icon.paint(&painter, room, Qt::AlignCenter,
+                      button.state & QStyle::State_Enabled ? QIcon::Normal : QIcon::Disabled,
+                      button.state & QStyle::State_On ? QIcon::On : QIcon::Off);
+}
+
+/// A tile's drawing at its edge, on a ground of its own; returns the room of the caption behind it.
+QRect paintTileDrawing(QPainter &painter, const QStyleOptionButton &tile)
+{
+    const QSize side = tile.iconSize + QSize(2 * TileInset, 2 * TileInset);
+    const QRect inside = tile.rect.adjusted(TileEdge, 0, -TileEdge, 0);
+    const QRect ground = QStyle::alignedRect(tile.direction, Qt::AlignLeading | Qt::AlignVCenter, side, inside);
+    QColor tint = tile.palette.color(!(tile.state & QStyle::State_Enabled) ? QPalette::Dark
+                                     : tile.state & QStyle::State_On       ? QPalette::HighlightedText
+                                                                           : QPalette::Highlight);
+    tint.setAlphaF(0.12F);
+    paintRounded(painter, ground, 0, 2 * Radius, Qt::NoPen, tint);
+    paintDrawing(painter, tile, ground.adjusted(TileInset, TileInset, -TileInset, -TileInset));
+    return QStyle::visualRect(tile.direction, inside, inside.adjusted(side.width() + TileGap, 0, 0, 0));
+}
+
+/// Another button's drawing, which stands with its caption in the middle; returns the caption's room.
+QRect paintSmallDrawing(QPainter &painter, const QStyleOptionButton &button)
+{
+    const QSize text = button.fontMetrics.size(Qt::TextShowMnemonic, button.text);
+    const QSize both(button.iconSize.width() + DrawingGap + text.width(), button.rect.height());
+    const QRect inside = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, both, button.rect);
+    paintDrawing(painter, button,
+                 QStyle::alignedRect(button.direction, Qt::AlignLeading | Qt::AlignVCenter, button.iconSize, inside));
+    return QStyle::visualRect(button.direction, inside, inside.adjusted(both.width() - text.width(), 0, 0, 0));
 }
 
 void paintArrow(QPainter &painter, const QRect &room, const QColor &color)
@@ -149,16 +195,27 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
 void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                         const QWidget *widget) const
 {
-    if (element == CE_PushButtonLabel) {
-        if (const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
-            button && button->features & QStyleOptionButton::DefaultButton && button->state & State_Enabled) {
-            QStyleOptionButton label(*button);
-            label.palette.setColor(QPalette::ButtonText, label.palette.color(QPalette::HighlightedText));
-            QProxyStyle::drawControl(element, &label, painter, widget);
-            return;
-        }
+    const auto *const button = qstyleoption_cast<const QStyleOptionButton *>(option);
+    if (element != CE_PushButtonLabel || !button) {
+        QProxyStyle::drawControl(element, option, painter, widget);
+        return;
     }
-    QProxyStyle::drawControl(element, option, painter, widget);
+    QStyleOptionButton label(*button);
+    if (button->features & QStyleOptionButton::DefaultButton && button->state & State_Enabled) {
+        label.palette.setColor(QPalette::ButtonText, label.palette.color(QPalette::HighlightedText));
+        // The drawing as it stands on the highlight's colour.
+        label.state |= State_On;
+    }
+    if (label.icon.isNull()) {
+        QProxyStyle::drawControl(element, &label, painter, widget);
+        return;
+    }
+    // The blanks around a caption would set it off from its drawing, and from the captions above and below.
+    label.text = label.text.trimmed();
+    const QRect room = isTile(label, widget) ? paintTileDrawing(*painter, label) : paintSmallDrawing(*painter, label);
+    // The mark of a letter parts it from its neighbours, which may take a little more than was measured.
+    drawItemText(painter, room, Qt::AlignLeading | Qt::AlignVCenter | Qt::TextShowMnemonic | Qt::TextDontClip,
+                 label.palette, label.state & State_Enabled, label.text, QPalette::ButtonText);
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
@@ -169,7 +226,10 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         QProxyStyle::drawComplexControl(control, option, painter, widget);
         return;
     }
-    const bool focused = combo->state & State_HasFocus && combo->state & State_Enabled;
+    // The keyboard is at the field inside the box; the ring goes round both.
+    const auto *const box = qobject_cast<const QComboBox *>(widget);
+    const bool focused = combo->state & State_Enabled
+                         && (combo->state & State_HasFocus || (box && box->lineEdit() && box->lineEdit()->hasFocus()));
     paintBody(*painter, *combo, combo->palette.color(QPalette::Base), focused);
     const int side = combo->rect.height();
     const bool mirrored = combo->direction == Qt::RightToLeft;
@@ -182,8 +242,14 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex *o
 {
     QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
     const auto *const group = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
-    if (control != CC_GroupBox || !group || group->text.isEmpty())
+    if (control != CC_GroupBox || !group)
         return rect;
+    constexpr int Line = 3;
+    if (part == SC_GroupBoxContents && group->features & QStyleOptionFrame::Flat)
+        return group->rect;
+    // Alike on all sides: a frame of one line of fields is no higher above them than below.
+    if (group->text.isEmpty())
+        return part == SC_GroupBoxContents ? group->rect.adjusted(Line, Line, -Line, -Line) : rect;
     // The title stands inside the line round the group, above its first field.
     constexpr int Inset = 10;
     if (part == SC_GroupBoxLabel)
@@ -205,6 +271,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption *option, const QWi
     case PM_LayoutTopMargin:
     case PM_LayoutBottomMargin:
         return 9;
+    case PM_ButtonIconSize:
+        return 18;
     case PM_ButtonMargin:
         return 6;
     case PM_DefaultFrameWidth:
@@ -282,12 +350,23 @@ QPixmap Style::standardPixmap(StandardPixmap pixmap, const QStyleOption *option,
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
                               const QWidget *widget) const
 {
+    // A group without a title is as high as what it holds, be that one button.
+    if (const auto *const group = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
+        group && type == CT_GroupBox && group->text.isEmpty())
+        return {};
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    if (type == CT_PushButton)
+    int lines = 1;
+    if (const auto *const button = qstyleoption_cast<const QStyleOptionButton *>(option);
+        button && type == CT_PushButton) {
         size.rwidth() = std::max(size.width() + 2 * option->fontMetrics.averageCharWidth(),
                                  option->fontMetrics.averageCharWidth() * 14);
+        if (isTile(*button, widget))
+            size.rwidth() += TileEdge + TileGap + 2 * TileInset;
+        lines += static_cast<int>(button->text.count(u'\n'));
+    }
     if (type == CT_PushButton || type == CT_LineEdit || type == CT_ComboBox)
-        size.setHeight(std::min(size.height(), fieldHeight(option->fontMetrics)));
+        size.setHeight(
+            std::min(size.height(), fieldHeight(option->fontMetrics) + (lines - 1) * option->fontMetrics.height()));
     return size;
 }
 

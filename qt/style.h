@@ -7,6 +7,8 @@ namespace zrv {
 
 /// The property of a group box or a field that holds its line's colour, where a screen chose one.
 inline constexpr char FrameLineColor[] = "frameLineColor";
+/// The property of a button that is a tile, see look::makeTile.
+inline constexpr char IsTile[] = "isTile";
 
 /// Fusion with flat fields and buttons and a ring round what has the focus, which is seen from across a desk.
 class Style : public QProxyStyle {

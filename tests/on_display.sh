@@ -17,11 +17,14 @@ Xvfb -displayfd 3 -screen 0 1024x768x24 -nolisten tcp -noreset 3>"$folder/displa
 pids+=($!)
 read -r number <"$folder/display"
 export DISPLAY=:$number QT_QPA_PLATFORM=xcb
-herbstluftwm --locked -c /bin/true >/dev/null 2>&1 &
+herbstluftwm -c /bin/true >/dev/null 2>&1 &
 pids+=($!)
 # A manager that comes up later would take windows over in the midst of the program's work.
 for _ in $(seq 100); do
     timeout 5 herbstclient version >/dev/null 2>&1 && break
     sleep 0.1
 done
+# Windows keep their places, a new one has the keyboard, and one that asks to comes to the front.
+herbstclient rule floating=on focus=on
+herbstclient set focus_stealing_prevention off
 "$@"

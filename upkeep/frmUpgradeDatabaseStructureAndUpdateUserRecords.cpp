@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "upkeep/frmUpgradeDatabaseStructureAndUpdateUserRecords.h"
 
+#include "core/kept_copies.h"
 #include "core/store/recordset.h"
 #include "core/store/store_copy.h"
 #include "upkeep/base_data_steps.h"
@@ -65,6 +66,8 @@ void frmUpgradeDatabaseStructureAndUpdateUserRecords::cmdUpgradeStructure_Click(
         cmdUpgradeStructure.setEnabled(true);
         return;
     }
+    // A second run overwrites the safety copy with a store that the first one changed; this one it leaves.
+    keepCopyBesideAnother(m_program);
     alterTables(run);
     rewriteBaseData(run);
     if (chkDelete.isChecked())

@@ -3,6 +3,7 @@
 
 #include "core/basic/run_time_error.h"
 #include "core/basic/val.h"
+#include "core/kept_copies.h"
 #include "core/store/recordset.h"
 #include "parties/number_field.h"
 
@@ -92,10 +93,21 @@ void frmUpgrades::cmdUpgrades_Click()
         &frmUpgrades::replaceBranchCode,  &frmUpgrades::widenChequeNumber,
     };
     try {
-        (this->*Repairs[m_choice])();
+        if (mayBeRepaired() && keepCopyBeforeStep(m_program))
+            (this->*Repairs[m_choice])();
     } catch (const RunTimeError &failure) {
         RepairLog += Failures[m_choice] + LineEnd + failure.description();
     }
+}
+
+/// The two repairs of the payer's key ask for one payer and for a new key.
+bool frmUpgrades::mayBeRepaired()
+{
+    if (m_choice == 2)
+        return storeHasOnePayer() && newTFNIsValid();
+    if (m_choice == 3)
+        return storeHasOnePayer() && newBranchCodeIsGiven();
+    return true;
 }
 
 void frmUpgrades::repair(const QString &statement)
@@ -152,10 +164,17 @@ bool frmUpgrades::newTFNIsValid()
     return false;
 }
 
+bool frmUpgrades::newBranchCodeIsGiven()
+{
+    if (!txtNewCodeShobe.text().trimmed().isEmpty())
+        return true;
+    messageBox(box::Refusal, Refused, u" کد شعبه جديد نميتواند خالي باشد.لطفا اصلاح نماييد "_s);
+    txtNewCodeShobe.setFocus();
+    return false;
+}
+
 void frmUpgrades::replaceTFN()
 {
-    if (!storeHasOnePayer() || !newTFNIsValid())
-        return;
     // Tables that are changed stay changed when a later one fails.
     for (const auto &[statement, told] : TablesOfThePayer) {
         repair(statement + literal(txtNewTFN));
@@ -166,13 +185,6 @@ void frmUpgrades::replaceTFN()
 
 void frmUpgrades::replaceBranchCode()
 {
-    if (!storeHasOnePayer())
-        return;
-    if (txtNewCodeShobe.text().trimmed().isEmpty()) {
-        messageBox(box::Refusal, Refused, u" کد شعبه جديد نميتواند خالي باشد.لطفا اصلاح نماييد "_s);
-        txtNewCodeShobe.setFocus();
-        return;
-    }
     repair(u"UPDATE ZRVtbKarfarma Set CodeShobe = "_s + literal(txtNewCodeShobe));
     endProgram(u" کد شعبه قبلي با موفقيت به کد شعبه جديد در جدول تعريف پرداخت کننده حقوق تبديل گرديد"_s);
 }

@@ -10,7 +10,7 @@ namespace zrv {
 using namespace Qt::Literals::StringLiterals;
 
 /// Five small repairs that a supervisor picks one at a time: a wrong key of the payer, and columns that early stores
-/// have too narrow. Each is one statement or four, without a copy and without a question.
+/// have too narrow. Each is one statement or four, without a question, behind a dated copy of the store.
 class frmUpgrades : public RecordScreen {
 public:
     explicit frmUpgrades(Program &program);
@@ -38,6 +38,7 @@ protected:
 private:
     void choose(int index);
     void cmdUpgrades_Click();
+    [[nodiscard]] bool mayBeRepaired();
     void shortenBranchCodes();
     void widenBranchCode();
     void widenChequeNumber();
@@ -46,6 +47,7 @@ private:
     void repair(const QString &statement);
     [[nodiscard]] bool storeHasOnePayer();
     [[nodiscard]] bool newTFNIsValid();
+    [[nodiscard]] bool newBranchCodeIsGiven();
     /// The payer's key that this run of the program holds is out of date.
     [[noreturn]] void endProgram(const QString &told);
 

@@ -12,14 +12,15 @@ that report. Prints the medians as ratios to iconv, to cat, and to cp for the re
 processor, and the peak memory. On a machine that others use look at the processor's. Quote the ratios only.
 """
 import argparse
-import os
 import statistics
 import subprocess
 import sys
-import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "bench"))
+from timed import run as timed_run  # noqa: E402
+
 PAYER = ("123456789012,01,1389,02,1,,علي,رضايي,مرکزي,1234567891,1234567890,02188776655,تهران,,حسن,کريمي,مدير,,,,,"
          "KCDk087lIDEuMS4zOCAtIDg5LzAzLzAzICk=")
 NAMES = ["مريم", "زهرا", "محمد", "علي رضا", "حسين", "فاطمه"]
@@ -49,15 +50,7 @@ def make_file(path, lines, sabege):
 
 
 def run(command, output=subprocess.DEVNULL, statuses=(0,)):
-    """Wall and processor seconds, and the peak memory in MB as the system tells it."""
-    begin = time.perf_counter()
-    child = subprocess.Popen(command, stdout=output)
-    _, status, usage = os.wait4(child.pid, 0)
-    wall = time.perf_counter() - begin
-    child.returncode = os.waitstatus_to_exitcode(status)
-    if child.returncode not in statuses:
-        sys.exit(f"{command} ended with {child.returncode}")
-    return wall, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024
+    return timed_run(command, output, statuses)
 
 
 def ways(build, work, lines):

@@ -7,7 +7,7 @@
 // bench/check_screen/run.py makes the file and sets the time beside that of zrvcheck.
 
 #include "core/basic/run_time_error.h"
-#include "files/check_report.h"
+#include "files/checked_lines.h"
 #include "qt/binder.h"
 #include "qt/form_window.h"
 #include "qt/look.h"
@@ -24,21 +24,6 @@ namespace {
 
 using namespace Qt::Literals::StringLiterals;
 using namespace zrv;
-
-class CheckLines : public ReportLines {
-public:
-    explicit CheckLines(std::unique_ptr<CheckReport> report)
-        : m_report(std::move(report))
-    {
-    }
-    [[nodiscard]] qint64 lineCount() override { return m_report->lineCount(); }
-    [[nodiscard]] qint64 length() override { return m_report->length(); }
-    [[nodiscard]] QString lines(qint64 first, qint64 count) override { return m_report->lines(first, count); }
-    [[nodiscard]] qint64 nextError(qint64 line) override { return m_report->nextError(line); }
-
-private:
-    std::unique_ptr<CheckReport> m_report;
-};
 
 class ReportForm : public Form {
 public:
@@ -122,7 +107,7 @@ int main(int argc, char *argv[])
         std::fputs("the file could not be checked\n", stderr);
         return 1;
     }
-    form.report.setLines(std::make_shared<CheckLines>(std::move(report)));
+    form.report.setLines(std::make_shared<CheckedLines>(std::move(report)));
     const double checked = double(clock.nsecsElapsed()) / 1e6;
     painted.wait();
     press(view, Qt::Key_End, Qt::ControlModifier);

@@ -14,26 +14,20 @@ import argparse
 import os
 import re
 import statistics
-import subprocess
 import sys
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "bench/check"))
-from run import make_file, run  # noqa: E402
+from run import make_file, run, timed_run  # noqa: E402
 
 
 def show(bench, path):
-    """Wall and processor seconds as the program tells them, and its peak memory in MB."""
-    child = subprocess.Popen([bench, path], stdout=subprocess.PIPE, text=True,
-                             env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
-    told = child.stdout.read()
-    _, status, usage = os.wait4(child.pid, 0)
-    child.returncode = os.waitstatus_to_exitcode(status)
-    times = re.match(r"([\d.]+) ms, of the processor ([\d.]+)", told)
-    if child.returncode != 0 or not times:
-        sys.exit(f"{bench} ended with {child.returncode}: {told}")
-    return float(times[1]) / 1000, float(times[2]) / 1000, usage.ru_maxrss / 1024
+    """What the program took from the click to the last page, as it tells itself."""
+    cost = timed_run([bench, path], env={**os.environ, "QT_QPA_PLATFORM": "offscreen"})
+    wall, processor = (float(told) / 1000 for told in
+                       re.match(r"([\d.]+) ms, of the processor ([\d.]+)", cost.told).groups())
+    return cost._replace(wall=wall, processor=processor)
 
 
 def main():
@@ -62,7 +56,7 @@ def main():
                        for kind in (0, 1))
     for place, (name, rounds) in enumerate(measured.items()):
         print(f"{name:26} wall {wall[place] / wall[0]:6.2f}   processor {processor[place] / processor[0]:6.2f}   "
-              f"peak {max(peak for _, _, peak in rounds):7.1f} MB")
+              f"peak {max(cost.peak for cost in rounds):7.1f} MB")
 
 
 if __name__ == "__main__":

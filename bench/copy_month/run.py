@@ -18,10 +18,12 @@ import sqlite3
 import statistics
 import subprocess
 import sys
-import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "bench"))
+from timed import run  # noqa: E402
+
 SOURCE, TARGET = ("1389", "01"), ("1390", "01")
 # With a million rows the page cache is what counts.
 GOAL, GOAL_LARGE, LARGE = 1.05, 0.85, 500_000
@@ -45,18 +47,6 @@ def statement(store):
     for name, value in values.items():
         code = code.replace(f"quoted({name})", f"u\"'{value}'\"_s")
     return "".join(re.findall(r'u"([^"]*)"', code)) + ";\n"
-
-
-def run(command):
-    """Wall and processor seconds of one command, which must succeed."""
-    begin = time.perf_counter()
-    child = subprocess.Popen(command)
-    _, status, usage = os.wait4(child.pid, 0)
-    wall = time.perf_counter() - begin
-    child.returncode = os.waitstatus_to_exitcode(status)
-    if child.returncode != 0:
-        sys.exit(f"{command[0]} failed with {child.returncode}")
-    return wall, usage.ru_utime + usage.ru_stime
 
 
 def copied(store):

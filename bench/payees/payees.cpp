@@ -15,7 +15,7 @@
 #include "parties/frmKarkonan.h"
 #include "qt/form_window.h"
 #include "qt/look.h"
-#include "qt/qt_platform.h"
+#include "tests/forgetful_platform.h"
 
 #include <QApplication>
 #include <QFile>
@@ -99,7 +99,7 @@ private:
 };
 
 /// The desktop without a user: what a user would do is done as soon as a screen waits.
-class Desk : public QtPlatform {
+class Desk : public ForgetfulPlatform {
 public:
     explicit Desk(QString folder)
         : m_folder(std::move(folder))
@@ -115,8 +115,6 @@ public:
         std::_Exit(1);
     }
     QString programFolder() override { return m_folder; }
-    QString setting(const QString &, const QString &, const QString &fallback) override { return fallback; }
-    void saveSetting(const QString &, const QString &, const QString &) override {}
 
 protected:
     void waitWhileOpen(Form &) override

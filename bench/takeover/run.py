@@ -17,25 +17,14 @@ import shutil
 import statistics
 import subprocess
 import sys
-import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "bench"))
+from timed import run  # noqa: E402
+
 TABLES = ("ZRVtbKarfarma", "ZRVtbKarkonan", "ZRVtbHogog", "ZRVtbKholList", "ZRVtbCoding", "User_Defination")
 GOAL = 2.0
-
-
-def run(command):
-    """Wall and processor seconds of one command, which must succeed, and what it wrote."""
-    begin = time.perf_counter()
-    child = subprocess.Popen(command, stdout=subprocess.PIPE, text=True)
-    told = child.stdout.read()
-    _, status, usage = os.wait4(child.pid, 0)
-    wall = time.perf_counter() - begin
-    child.returncode = os.waitstatus_to_exitcode(status)
-    if child.returncode != 0:
-        sys.exit(f"{command[0]} failed with {child.returncode}: {told}")
-    return wall, usage.ru_utime + usage.ru_stime, told
 
 
 def make_old(zrvjet, folder, payees):
@@ -72,7 +61,7 @@ def main():
         shutil.rmtree(new, ignore_errors=True)
         return run([a.build / "bin/zrvstore", "takeover", old, new])
 
-    told = take_over()[2]
+    told = take_over().told
     script = write_texts(new / "DBZorvan.mdb", work / "texts")
 
     def import_texts():
@@ -83,7 +72,7 @@ def main():
     rounds = [(import_texts(), take_over()) for _ in range(a.rounds)]
     counts = {table: int(re.search(rf"^{table}: (\d+) rows", told, re.M).group(1)) for table in TABLES}
     for table, count in counts.items():
-        if run(["sqlite3", imported, f"SELECT count(*) FROM {table}"])[2].strip() != str(count):
+        if run(["sqlite3", imported, f"SELECT count(*) FROM {table}"]).told.strip() != str(count):
             sys.exit(f"{table} has other rows in the import")
 
     median = [[statistics.median(measured[who][part] for measured in rounds) for part in (0, 1)] for who in (0, 1)]

@@ -11,15 +11,16 @@ ratio, of the wall clock and of the processor, and the memory beyond the idle pr
 An eighth of a sample's payees have left before the month, so 114300 of them make some 100000 lines.
 """
 import argparse
-import os
 import re
 import statistics
 import subprocess
 import sys
-import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "bench"))
+from timed import run  # noqa: E402
+
 YEAR, MONTH = "1389", "02"
 GOALS = {"wall": 0.8, "memory": 32.0}
 
@@ -38,18 +39,9 @@ def statement(store):
             + " ORDER BY ZRVtbHogog.rowid;\n")
 
 
-def run(command):
-    """Wall and processor seconds of one command, which must succeed, and the peak memory in MB that it tells of."""
-    begin = time.perf_counter()
-    child = subprocess.Popen(command, stdout=subprocess.PIPE, text=True)
-    told = child.stdout.read()
-    _, status, usage = os.wait4(child.pid, 0)
-    wall = time.perf_counter() - begin
-    child.returncode = os.waitstatus_to_exitcode(status)
-    if child.returncode != 0:
-        sys.exit(f"{command[0]} failed with {child.returncode}")
-    peak = re.search(r"^VmHWM:\s*(\d+) kB", told, re.M)
-    return wall, usage.ru_utime + usage.ru_stime, int(peak.group(1)) / 1024 if peak else 0
+def peak(cost):
+    """MB, as the writer tells them: the system counts this script's memory in, which it began in."""
+    return int(re.search(r"^VmHWM:\s*(\d+) kB", cost.told, re.M).group(1)) / 1024
 
 
 def make_store(zrvstore, folder, payees):
@@ -75,7 +67,7 @@ def main():
     run(reference)  # both begin with the store in the page cache
     run(writer)
     rounds = [(run(reference), run(writer)) for _ in range(a.rounds)]
-    idle = statistics.median(run([writer[0], "--idle", *writer[1:]])[2] for _ in range(3))
+    idle = statistics.median(peak(run([writer[0], "--idle", *writer[1:]])) for _ in range(3))
 
     whole = work / "ERSAL" / (YEAR + MONTH) / f"WH{YEAR}{MONTH}.TXT"
     lines = whole.read_bytes().decode("utf-16").count("\r\n")
@@ -87,7 +79,7 @@ def main():
         medians = [statistics.median(measured[who][part] for measured in rounds) for who in (0, 1)]
         return medians[1] / medians[0]
 
-    memory = max(writer_run[2] for _, writer_run in rounds) - idle
+    memory = max(peak(writer_run) for _, writer_run in rounds) - idle
     print(f"{rows} payees, {whole.stat().st_size / 1e6:.0f} MB, {a.rounds} rounds, medians")
     print(f"writer / sqlite3 -csv: wall {ratio(0):.2f} (goal {GOALS['wall']}), processor {ratio(1):.2f}")
     print(f"memory beyond the idle program: {memory:.1f} MB (goal {GOALS['memory']})")

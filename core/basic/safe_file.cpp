@@ -67,6 +67,10 @@ SafeFile::SafeFile(const QString &path)
     , m_target(QFile::encodeName(path))
     , m_temporary(m_target + ".tmp")
 {
+    // A device or a pipe would be taken away for good, and with it what others do with it.
+    struct stat there {};
+    if (::lstat(m_target.constData(), &there) == 0 && !S_ISREG(there.st_mode) && !S_ISLNK(there.st_mode))
+        throw writeFailure(error::PathFileAccess, OtherRemedy, m_path);
     ::unlink(m_temporary.constData());
     m_file = ::open(m_temporary.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR);
     expect(m_file >= 0);
@@ -102,7 +106,22 @@ void SafeFile::write(const void *bytes, std::size_t size)
         expect(written >= 0);
         rest += written;
         size -= static_cast<std::size_t>(written);
+        m_unsynced += written;
     }
+    beginSync();
+}
+
+/// A long file goes to the disk while the rest is made, so that commit() has little left to wait for.
+void SafeFile::beginSync()
+{
+#ifdef SYNC_FILE_RANGE_WRITE
+    constexpr off_t LongBytes = 16 << 20;
+    if (m_unsynced < LongBytes)
+        return;
+    // Whether it can be begun early doesn't matter: commit() waits for all of it, and hears of any failure.
+    ::sync_file_range(m_file, ::lseek(m_file, 0, SEEK_CUR) - m_unsynced, m_unsynced, SYNC_FILE_RANGE_WRITE);
+    m_unsynced = 0;
+#endif
 }
 
 /// Whether the temporary name still leads to this file: another program may have begun to write it anew.

@@ -20,7 +20,7 @@ namespace zrv {
 /// differ from run to run, so what a killed program leaves behind would pile up.
 ///
 /// Failures are RunTimeErrors: DiskFull, PermissionDenied, PathNotFound, DeviceIo, and PathFileAccess for
-/// anything else; their descriptions name the file and the way out.
+/// anything else, such as a folder, a device or a pipe of that name; their descriptions name the file and the way out.
 class SafeFile {
 public:
     /// The folder must be there.
@@ -37,12 +37,14 @@ public:
 
 private:
     void expect(bool done) const;
+    void beginSync();
     [[nodiscard]] bool isStillOurs() const;
 
     QString m_path;
     QByteArray m_target;
     QByteArray m_temporary;
     int m_file = -1;
+    qint64 m_unsynced = 0; ///< bytes written that the system isn't yet asked to bring to the disk
 };
 
 } // namespace zrv

@@ -19,26 +19,8 @@ TextBox::TextBox(Container &container, QString name, const TextBoxLook &look)
     m_leftToRight = look.leftToRight;
 }
 
-Label::Label(Container &container, QString name, const LabelLook &look)
-    : Control(container, std::move(name), ControlKind::Label, false)
-    , m_caption(look.caption)
-    , m_leftToRight(look.leftToRight)
-{
-    m_toolTip = look.toolTip;
-    m_visible = look.visible;
-    m_backColor = color::Window;
-}
-
-void Label::setCaption(const QString &caption)
-{
-    if (m_caption == caption)
-        return;
-    m_caption = caption;
-    changed(Aspect::Caption);
-}
-
-Button::Button(Container &container, QString name, const ButtonLook &look)
-    : Control(container, std::move(name), ControlKind::Button, true)
+Captioned::Captioned(Container &container, QString name, ControlKind kind, bool takesFocus, const ButtonLook &look)
+    : Control(container, std::move(name), kind, takesFocus)
     , m_caption(look.caption)
 {
     m_toolTip = look.toolTip;
@@ -47,12 +29,24 @@ Button::Button(Container &container, QString name, const ButtonLook &look)
     m_backColor = color::Window;
 }
 
-void Button::setCaption(const QString &caption)
+void Captioned::setCaption(const QString &caption)
 {
     if (m_caption == caption)
         return;
     m_caption = caption;
     changed(Aspect::Caption);
+}
+
+Label::Label(Container &container, QString name, const LabelLook &look)
+    : Captioned(container, std::move(name), ControlKind::Label, false,
+                {.caption = look.caption, .toolTip = look.toolTip, .visible = look.visible})
+    , m_leftToRight(look.leftToRight)
+{
+}
+
+Button::Button(Container &container, QString name, const ButtonLook &look)
+    : Captioned(container, std::move(name), ControlKind::Button, true, look)
+{
 }
 
 namespace {
@@ -90,15 +84,19 @@ void Button::setCancel(bool on)
         changed(Aspect::DefaultOrCancel);
 }
 
+namespace {
+
+ButtonLook captionLook(const ChoiceLook &look)
+{
+    return {.caption = look.caption, .toolTip = look.toolTip, .enabled = look.enabled, .visible = look.visible};
+}
+
+} // namespace
+
 CheckBox::CheckBox(Container &container, QString name, const ChoiceLook &look)
-    : Control(container, std::move(name), ControlKind::CheckBox, true)
-    , m_caption(look.caption)
+    : Captioned(container, std::move(name), ControlKind::CheckBox, true, captionLook(look))
     , m_checked(look.checked)
 {
-    m_toolTip = look.toolTip;
-    m_enabled = look.enabled;
-    m_visible = look.visible;
-    m_backColor = color::Window;
 }
 
 void CheckBox::setChecked(bool checked)
@@ -111,23 +109,10 @@ void CheckBox::setChecked(bool checked)
         onClick();
 }
 
-void CheckBox::setCaption(const QString &caption)
-{
-    if (m_caption == caption)
-        return;
-    m_caption = caption;
-    changed(Aspect::Caption);
-}
-
 OptionButton::OptionButton(Container &container, QString name, const ChoiceLook &look)
-    : Control(container, std::move(name), ControlKind::OptionButton, true)
-    , m_caption(look.caption)
+    : Captioned(container, std::move(name), ControlKind::OptionButton, true, captionLook(look))
     , m_checked(look.checked)
 {
-    m_toolTip = look.toolTip;
-    m_enabled = look.enabled;
-    m_visible = look.visible;
-    m_backColor = color::Window;
 }
 
 void OptionButton::setChecked(bool checked)
@@ -142,14 +127,6 @@ void OptionButton::setChecked(bool checked)
     changed(Aspect::Checked);
     if (checked && onClick)
         onClick();
-}
-
-void OptionButton::setCaption(const QString &caption)
-{
-    if (m_caption == caption)
-        return;
-    m_caption = caption;
-    changed(Aspect::Caption);
 }
 
 ListBox::ListBox(Container &container, QString name, const ListBoxLook &look)
@@ -212,19 +189,9 @@ QString ListBox::shownText() const
 }
 
 Frame::Frame(Container &container, QString name, const FrameLook &look)
-    : Control(container, std::move(name), ControlKind::Frame, false)
-    , m_caption(look.caption)
+    : Captioned(container, std::move(name), ControlKind::Frame, false,
+                {.caption = look.caption, .visible = look.visible})
 {
-    m_visible = look.visible;
-    m_backColor = color::Window;
-}
-
-void Frame::setCaption(const QString &caption)
-{
-    if (m_caption == caption)
-        return;
-    m_caption = caption;
-    changed(Aspect::Caption);
 }
 
 Picture::Picture(Container &container, QString name, const FrameLook &look)
@@ -278,20 +245,8 @@ void StatusPanel::setSize(Size size)
 }
 
 MenuItem::MenuItem(Container &container, QString name, const ButtonLook &look)
-    : Control(container, std::move(name), ControlKind::MenuItem, false)
-    , m_caption(look.caption)
+    : Captioned(container, std::move(name), ControlKind::MenuItem, false, look)
 {
-    m_enabled = look.enabled;
-    m_visible = look.visible;
-    m_backColor = color::Window;
-}
-
-void MenuItem::setCaption(const QString &caption)
-{
-    if (m_caption == caption)
-        return;
-    m_caption = caption;
-    changed(Aspect::Caption);
 }
 
 Timer::Timer(Container &container, QString name, int intervalMs)

@@ -36,27 +36,6 @@ private:
     TextBoxLook m_look;
 };
 
-struct LabelLook {
-    QString caption = {};
-    QString toolTip = {};
-    bool visible = true;
-    bool leftToRight = false; ///< paths and codes
-};
-
-class Label : public Control {
-public:
-    Label(Container &container, QString name, const LabelLook &look = {});
-
-    [[nodiscard]] const QString &caption() const { return m_caption; }
-    void setCaption(const QString &caption);
-    [[nodiscard]] QString shownText() const override { return m_caption; }
-    [[nodiscard]] bool isLeftToRight() const { return m_leftToRight; }
-
-private:
-    QString m_caption;
-    bool m_leftToRight;
-};
-
 struct ButtonLook {
     QString caption = {};
     QString toolTip = {};
@@ -64,13 +43,40 @@ struct ButtonLook {
     bool visible = true;
 };
 
-class Button : public Control {
+/// A control with words of its own on it.
+class Captioned : public Control {
 public:
-    Button(Container &container, QString name, const ButtonLook &look = {});
-
     [[nodiscard]] const QString &caption() const { return m_caption; }
     void setCaption(const QString &caption);
     [[nodiscard]] QString shownText() const override { return m_caption; }
+
+protected:
+    Captioned(Container &container, QString name, ControlKind kind, bool takesFocus, const ButtonLook &look);
+
+private:
+    QString m_caption;
+};
+
+struct LabelLook {
+    QString caption = {};
+    QString toolTip = {};
+    bool visible = true;
+    bool leftToRight = false; ///< paths and codes
+};
+
+class Label : public Captioned {
+public:
+    Label(Container &container, QString name, const LabelLook &look = {});
+
+    [[nodiscard]] bool isLeftToRight() const { return m_leftToRight; }
+
+private:
+    bool m_leftToRight;
+};
+
+class Button : public Captioned {
+public:
+    Button(Container &container, QString name, const ButtonLook &look = {});
 
     /// Enter anywhere on the form clicks its default button, unless the focused control has a use for Enter.
     [[nodiscard]] bool isDefault() const;
@@ -78,9 +84,6 @@ public:
     /// Escape anywhere on the form clicks its Cancel button.
     [[nodiscard]] bool isCancel() const;
     void setCancel(bool on);
-
-private:
-    QString m_caption;
 };
 
 struct ChoiceLook {
@@ -91,36 +94,28 @@ struct ChoiceLook {
     bool visible = true;
 };
 
-class CheckBox : public Control {
+class CheckBox : public Captioned {
 public:
     CheckBox(Container &container, QString name, const ChoiceLook &look = {});
 
     [[nodiscard]] bool isChecked() const { return m_checked; }
     /// Ticks or clears it; onClick runs on a change, whoever made it.
     void setChecked(bool checked);
-    [[nodiscard]] const QString &caption() const { return m_caption; }
-    void setCaption(const QString &caption);
-    [[nodiscard]] QString shownText() const override { return m_caption; }
 
 private:
-    QString m_caption;
     bool m_checked;
 };
 
 /// One of a group: those that lie in the same container. Choosing one clears the others.
-class OptionButton : public Control {
+class OptionButton : public Captioned {
 public:
     OptionButton(Container &container, QString name, const ChoiceLook &look = {});
 
     [[nodiscard]] bool isChecked() const { return m_checked; }
     /// Chooses it (onClick runs on a change) or clears it without a word.
     void setChecked(bool checked);
-    [[nodiscard]] const QString &caption() const { return m_caption; }
-    void setCaption(const QString &caption);
-    [[nodiscard]] QString shownText() const override { return m_caption; }
 
 private:
-    QString m_caption;
     bool m_checked;
 };
 
@@ -231,18 +226,12 @@ struct FrameLook {
     bool visible = true;
 };
 
-class Frame : public Control, public Container {
+class Frame : public Captioned, public Container {
 public:
     Frame(Container &container, QString name, const FrameLook &look = {});
 
-    [[nodiscard]] const QString &caption() const { return m_caption; }
-    void setCaption(const QString &caption);
-    [[nodiscard]] QString shownText() const override { return m_caption; }
     [[nodiscard]] Form &containerForm() override { return form(); }
     [[nodiscard]] Control *containerControl() override { return this; }
-
-private:
-    QString m_caption;
 };
 
 /// A picture box used as a container, and the main form's background.
@@ -291,19 +280,13 @@ private:
 
 /// A menu of the form's bar, an item of such a menu, or (caption "-") a separator. Its container is the form for
 /// a menu and the menu for an item.
-class MenuItem : public Control, public Container {
+class MenuItem : public Captioned, public Container {
 public:
     MenuItem(Container &container, QString name, const ButtonLook &look);
 
-    [[nodiscard]] const QString &caption() const { return m_caption; }
-    void setCaption(const QString &caption);
-    [[nodiscard]] bool isSeparator() const { return m_caption == QLatin1String("-"); }
-    [[nodiscard]] QString shownText() const override { return m_caption; }
+    [[nodiscard]] bool isSeparator() const { return caption() == QLatin1String("-"); }
     [[nodiscard]] Form &containerForm() override { return form(); }
     [[nodiscard]] Control *containerControl() override { return this; }
-
-private:
-    QString m_caption;
 };
 
 /// Ticks while its form is open; only the window side makes it run.

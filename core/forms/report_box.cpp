@@ -147,7 +147,9 @@ const ReportPage &ReportBox::page(qint64 first, qint64 count)
         return m_page;
     try {
         m_page.lines = m_lines->lines(first, end - first).split(LineEnd);
-        m_page.tellsError.assign(static_cast<std::size_t>(m_page.lines.size()), false);
+        // A report that gives more lines than were asked for, or fewer, must not lead beyond the page.
+        m_page.lines.resize(end - first);
+        m_page.tellsError.assign(static_cast<std::size_t>(end - first), false);
         for (qint64 line = m_lines->nextError(first - 1); line >= 0 && line < end; line = m_lines->nextError(line))
             m_page.tellsError.at(static_cast<std::size_t>(line - first)) = true;
     } catch (const RunTimeError &failure) {

@@ -48,9 +48,14 @@ RowWindow::RowWindow(QString connectionString, const QString &select)
     readIds(*connection.m_file, select);
 }
 
-RowWindow::RowWindow(std::shared_ptr<StoreFile> file, const QString &select)
+RowWindow::RowWindow(std::shared_ptr<StoreFile> file, const QString &select, std::function<bool()> goesOn)
     : m_file(std::move(file))
 {
+    struct Asking {
+        StoreFile &file;
+        ~Asking() { file.askWhileRunning({}); }
+    } const asking{*m_file};
+    m_file->askWhileRunning(std::move(goesOn));
     readIds(*m_file, select);
 }
 
@@ -79,7 +84,14 @@ QString RowWindow::cell(int row, int column) const
 {
     if (m_ids.empty())
         return m_rows.at(std::size_t(row)).value(column);
+    if (!canRead(row / PageRows))
+        return {};
     return page(row / PageRows).rows.at(std::size_t(row % PageRows)).value(column);
+}
+
+bool RowWindow::canRead(int page) const
+{
+    return !m_file || !m_file->isAsking() || std::ranges::find(m_pages, page, &Page::number) != m_pages.end();
 }
 
 const RowWindow::Page &RowWindow::page(int number) const

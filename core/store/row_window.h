@@ -5,6 +5,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <list>
 #include <vector>
 
@@ -17,11 +18,13 @@ class RowWindow {
 public:
     /// Runs the query once. Raises the store's errors.
     RowWindow(QString connectionString, const QString &select);
-    /// The same over a file that stays open as long as its rows are looked at.
-    RowWindow(std::shared_ptr<StoreFile> file, const QString &select);
+    /// The same over a file that stays open as long as its rows are looked at. `goesOn` is asked now and then while the
+    /// query runs; false ends it in StatementStopped.
+    RowWindow(std::shared_ptr<StoreFile> file, const QString &select, std::function<bool()> goesOn = {});
 
     [[nodiscard]] int rowCount() const { return static_cast<int>(m_ids.empty() ? m_rows.size() : m_ids.size()); }
-    /// Row and column from 0. NULL gives the empty text.
+    /// Row and column from 0. NULL gives the empty text; so does a row that wasn't looked at lately, while another query
+    /// of the same open file asks whether to go on.
     [[nodiscard]] QString cell(int row, int column) const;
 
 private:
@@ -34,6 +37,7 @@ private:
     };
 
     void readIds(StoreFile &file, const QString &select);
+    [[nodiscard]] bool canRead(int page) const;
     [[nodiscard]] const Page &page(int number) const;
     [[nodiscard]] Page readPage(int number) const;
 

@@ -26,8 +26,11 @@ public:
     /// To be called behind the last row.
     void finish();
 
-    /// The rows of a SELECT over this table.
-    [[nodiscard]] RowWindow rows(const QString &select) const { return {m_file, select}; }
+    /// The rows of a SELECT over this table. `goesOn` is asked now and then; false ends it in StatementStopped.
+    [[nodiscard]] RowWindow rows(const QString &select, std::function<bool()> goesOn = {}) const
+    {
+        return {m_file, select, std::move(goesOn)};
+    }
 
 private:
     struct Insert;

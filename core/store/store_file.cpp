@@ -12,6 +12,7 @@
 #include <QFile>
 
 #include <sqlite3.h>
+#include <utility>
 
 namespace zrv {
 
@@ -132,10 +133,34 @@ bool StoreFile::step(const PreparedStatement &statement)
     raise(statement.get());
 }
 
-void StoreFile::raise(sqlite3_stmt *failed) const
+void StoreFile::raise(sqlite3_stmt *failed)
 {
     sqlite3_reset(failed); // lets go of the store's lock, and keeps what is known of the failure
+    if (m_stopped)
+        std::rethrow_exception(std::exchange(m_stopped, nullptr));
     throw storeFailure(m_database, m_path, false);
+}
+
+void StoreFile::askWhileRunning(std::function<bool()> goesOn)
+{
+    constexpr int StepsBetweenQuestions = 20000; // of SQLite's machine; some milliseconds
+    const auto endsStatement = [](void *file) { return static_cast<StoreFile *>(file)->ask() ? 0 : 1; };
+    m_goesOn = std::move(goesOn);
+    sqlite3_progress_handler(m_database, m_goesOn ? StepsBetweenQuestions : 0, endsStatement, this);
+}
+
+/// No exception finds its way through SQLite.
+bool StoreFile::ask() noexcept
+{
+    m_isAsking = true;
+    try {
+        if (!m_goesOn())
+            throw StatementStopped();
+    } catch (...) {
+        m_stopped = std::current_exception();
+    }
+    m_isAsking = false;
+    return !m_stopped;
 }
 
 int StoreFile::run(const QString &sql)

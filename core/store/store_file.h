@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <exception>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -20,6 +22,9 @@ struct CloseStatement {
 
 /// A prepared statement in SQLite's SQL.
 using PreparedStatement = std::unique_ptr<sqlite3_stmt, CloseStatement>;
+
+/// Thrown by a statement that was not to go on.
+struct StatementStopped {};
 
 /// The open file of a store and what was learnt of its tables. Connections and recordsets share it; the last of them
 /// closes it. One thread uses it.
@@ -40,6 +45,12 @@ public:
     /// Runs one statement to its end; returns the number of rows it changed.
     int run(const QString &sql);
 
+    /// Asked now and then in the course of this file's statements, which may take long; false ends the statement in
+    /// StatementStopped, and what is thrown goes on to whoever runs it. Null for none.
+    void askWhileRunning(std::function<bool()> goesOn);
+    /// True while it is asked: no other statement of this file can be run meanwhile.
+    [[nodiscard]] bool isAsking() const { return m_isAsking; }
+
     [[nodiscard]] const TableShape *find(QStringView table) override;
     [[nodiscard]] bool hasAtMost(const QString &sql, int rows) override;
     /// To be called when a statement has changed the shape of tables.
@@ -53,12 +64,16 @@ public:
 
 private:
     void open(const char *path, int flags);
-    [[noreturn]] void raise(sqlite3_stmt *failed) const;
+    [[noreturn]] void raise(sqlite3_stmt *failed);
+    [[nodiscard]] bool ask() noexcept;
     [[nodiscard]] std::optional<TableShape> readTable(QStringView name);
     [[nodiscard]] QStringList indexColumns(const QString &index);
 
     QString m_path;
     sqlite3 *m_database = nullptr;
+    std::function<bool()> m_goesOn;
+    bool m_isAsking = false;
+    std::exception_ptr m_stopped;                          ///< why the statement that runs is to end
     std::map<QString, std::optional<TableShape>> m_tables; ///< by name in lower case
 };
 

@@ -12,7 +12,7 @@ void layOutKholList(LayoutBuilder &b)
         b.inside(u"framKey", b.line({
             u"lblTaxYear", b.narrow(u"txtTaxYear", 6), u"lblTaxMonth", b.narrow(u"dcbTaxMonth", 13),
             u"lblKholListType", b.wide(b.noLess(u"dcbKholListType", 12)), u"lblTFN", b.narrow(u"TextTFN", 14),
-            b.small(u"cmdKeyOk"), b.small(u"cmdKeyReturn"),
+            b.small(u"cmdKeyOk", u"cmdKeyReturn"), b.small(u"cmdKeyReturn"),
         })),
         b.inside(u"framData", b.column({
             b.line({
@@ -39,7 +39,7 @@ void layOutKholList(LayoutBuilder &b)
                     {u"lblChequeDate", b.around(u"picChequeDate", b.date(u"txtCheque"))},
                     {u"lblShobeName", u"txtShobeName"},
                 }, 3))),
-                b.column({b.room(), b.small(u"cmdDataOk"), b.small(u"cmdDataReturn")}),
+                b.column({b.room(), b.small(u"cmdDataOk", u"cmdDataReturn"), b.small(u"cmdDataReturn")}),
             }),
         })),
         b.wide(b.browse(u"dbgLetter_Topic", {u"chkAutoSearch"})),

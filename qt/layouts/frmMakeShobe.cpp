@@ -13,7 +13,7 @@ void layOutMakeShobe(LayoutBuilder &b)
         b.line({b.wide(b.paragraph(u"lblTotalCountCaption", 1)), b.value(u"lblTotalCount")}),
         b.inside(u"PPICWaitingMessage", b.column({b.paragraph(u"LabelWaitingMessage", 2)})),
         b.room(),
-        b.line({u"cmdUpgrades", u"cmdExit", b.room()}),
+        b.buttons({u"cmdUpgrades", u"cmdExit"}),
     }));
     // clang-format on
 }

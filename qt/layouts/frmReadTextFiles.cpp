@@ -31,9 +31,9 @@ void layOutReadTextFiles(LayoutBuilder &b)
     // clang-format off
     b.atLeast(130, 0);
     b.fill(b.column({
-        b.inside(u"framFiles", b.column({
-            b.line({u"lblHogogPath", b.wide(b.value(u"LabelHogogPath")), b.small(u"cmdShowHogogTextFilePath")}),
-            b.line({u"lblKholPath", b.wide(b.value(u"LabelKholPath")), b.small(u"cmdShowKholTextFilePath")}),
+        b.inside(u"framFiles", b.fields({
+            {u"lblHogogPath", b.line({b.wide(b.value(u"LabelHogogPath")), b.small(u"cmdShowHogogTextFilePath")})},
+            {u"lblKholPath", b.line({b.wide(b.value(u"LabelKholPath")), b.small(u"cmdShowKholTextFilePath")})},
         })),
         b.inside(u"framHogog", b.column({
             b.line({u"cmdHogogShow", u"cmdCheckHogogStructure", u"cmdShowErrorLogFile", b.room()}),

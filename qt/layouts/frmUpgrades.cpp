@@ -12,8 +12,8 @@ void layOutUpgrades(LayoutBuilder &b)
         b.panel(b.column({
             u"optUpgrades(0)",
             u"optUpgrades(1)",
-            b.line({u"optUpgrades(2)", b.wide(b.value(u"lblOldTFN")), u"lblNewTFN", b.wide(u"txtNewTFN")}),
-            b.line({u"optUpgrades(3)", b.wide(b.value(u"lblOldCodeShobe")), u"lblNewCodeShobe", b.wide(u"txtNewCodeShobe")}),
+            b.line({b.noLess(u"optUpgrades(2)", 31), b.wide(b.value(u"lblOldTFN")), u"lblNewTFN", b.wide(u"txtNewTFN")}),
+            b.line({b.noLess(u"optUpgrades(3)", 31), b.wide(b.value(u"lblOldCodeShobe")), u"lblNewCodeShobe", b.wide(u"txtNewCodeShobe")}),
             u"optUpgrades(4)",
         })),
         b.wide(u"txtLog"),

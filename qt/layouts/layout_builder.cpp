@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "qt/layouts/layout_builder.h"
 
+#include "core/forms/spoken_name.h"
+#include "qt/binder.h"
 #include "qt/caption_label.h"
 #include "qt/form_window.h"
 #include "qt/layouts/wrap_layout.h"
 #include "qt/look.h"
+#include "qt/spoken_names.h"
 
 #include <QBoxLayout>
 #include <QComboBox>
@@ -52,6 +55,12 @@ QWidget *LayoutBuilder::widget(const QString &name) const
 QString LayoutBuilder::shownText(const QString &name) const
 {
     return m_window.form().find(name)->shownText().trimmed();
+}
+
+QWidget &LayoutBuilder::withCaption(QWidget &button) const
+{
+    m_window.binderOf(*m_window.form().find(button.objectName())).refresh(Aspect::Caption);
+    return button;
 }
 
 void LayoutBuilder::add(QBoxLayout &box, const Cell &cell) const
@@ -109,7 +118,7 @@ QLayout *LayoutBuilder::table(int wantedColumns, Cells cells)
     for (const Cell &cell : cells) {
         QWidget *const placed = cell.widget ? cell.widget : widget(cell.name);
         grid->addWidget(placed, place / columns, place % columns);
-        widest = std::max(widest, placed->sizeHint().width());
+        widest = std::max(widest, withCaption(*placed).sizeHint().width());
         ++place;
     }
     for (int column = 0; column < columns; ++column) {
@@ -166,7 +175,8 @@ QLayout *LayoutBuilder::figures(Cells heads, std::initializer_list<std::pair<con
             grid->addWidget(widget(label), row, 0);
         for (int column = 0; column < columns; ++column) {
             QWidget *const field = widget(cells.begin()[column].name);
-            field->setAccessibleName(shownText(label) + u' ' + shownText(heads.begin()[column].name));
+            field->setAccessibleName(spokenText(shownText(label) + u' ' + shownText(heads.begin()[column].name)));
+            field->setProperty(NamedByLayout, true);
             grid->addWidget(field, row, firstColumn + column);
         }
         ++row;
@@ -275,7 +285,7 @@ QLayout *LayoutBuilder::buttons(Cells cells)
 {
     int widest = 0;
     for (const Cell &cell : cells)
-        widest = std::max(widest, widget(cell.name)->sizeHint().width());
+        widest = std::max(widest, withCaption(*widget(cell.name)).sizeHint().width());
     for (const Cell &cell : cells)
         widget(cell.name)->setMinimumWidth(widest);
     std::vector<Cell> row(cells);
@@ -294,8 +304,11 @@ LayoutBuilder::Cell LayoutBuilder::around(const char16_t *container, QLayout *ce
 {
     const Cell cell = inside(container, cells);
     cells->setContentsMargins(0, 0, 0, 0);
-    if (auto *const box = qobject_cast<QGroupBox *>(cell.widget))
+    if (auto *const box = qobject_cast<QGroupBox *>(cell.widget)) {
         box->setFlat(true);
+        // The margins that it took for its line.
+        box->setContentsMargins(0, 0, 0, 0);
+    }
     return cell;
 }
 
@@ -361,8 +374,10 @@ LayoutBuilder::Cell LayoutBuilder::value(const char16_t *label)
 
 LayoutBuilder::Cell LayoutBuilder::paragraph(const char16_t *label, int lines)
 {
-    QWidget *const made = widget(QString::fromUtf16(label));
-    static_cast<QLabel *>(made)->setWordWrap(true);
+    auto *const made = static_cast<QLabel *>(widget(QString::fromUtf16(label)));
+    made->setWordWrap(true);
+    // The last letter of a full line may reach beyond its width.
+    made->setMargin(3);
     made->setMinimumHeight(made->fontMetrics().lineSpacing() * lines);
     return made;
 }
@@ -396,11 +411,11 @@ LayoutBuilder::Cell LayoutBuilder::searching(const char16_t *field)
     return made;
 }
 
-LayoutBuilder::Cell LayoutBuilder::small(const char16_t *button)
+LayoutBuilder::Cell LayoutBuilder::small(const char16_t *button, const char16_t *asWideAs)
 {
+    QString caption = shownText(QString::fromUtf16(asWideAs ? asWideAs : button));
     QWidget *const made = widget(QString::fromUtf16(button));
-    made->setFixedWidth(
-        m_window.fontMetrics().horizontalAdvance(shownText(QString::fromUtf16(button)) + QStringLiteral("000000")));
+    made->setFixedWidth(m_window.fontMetrics().horizontalAdvance(caption.remove(u'&') + QStringLiteral("000000")));
     return made;
 }
 

@@ -98,8 +98,8 @@ public:
     Cell words(const char16_t *label, int letters);
     Cell tile(const char16_t *button);
     Cell searching(const char16_t *field);
-    /// A button that is little wider than its caption.
-    Cell small(const char16_t *button);
+    /// A button that is little wider than its caption, or than that of another one beside or below it.
+    Cell small(const char16_t *button, const char16_t *asWideAs = nullptr);
 
     /// The whole layout; the last word of a layout.
     void fill(QLayout *cells);
@@ -111,6 +111,8 @@ public:
 private:
     QWidget *widget(const QString &name) const;
     QString shownText(const QString &name) const;
+    /// The button, as wide as its caption asks: the controls are shown only when all of them are placed.
+    QWidget &withCaption(QWidget &button) const;
     void add(QBoxLayout &box, const Cell &cell) const;
     QLayout *wrapped(const std::vector<Cell> &cells);
     [[nodiscard]] int perLine(int wanted, int roomOfOne) const;

@@ -107,7 +107,9 @@ void PreviewWindow::open()
         (parentWidget() ? parentWidget()->screen() : QGuiApplication::primaryScreen())->availableGeometry();
     // Where a display manager does not know of maximised windows, the window has a size of use all the same.
     setGeometry(room.adjusted(room.width() / 20, room.height() / 20, -room.width() / 20, -room.height() / 20));
-    showMaximized();
+    setWindowState(Qt::WindowMaximized);
+    m_keptSize.emplace(*this, m_platform, m_report.name());
+    show();
     m_view->setFocus();
 }
 

@@ -2,11 +2,13 @@
 #pragma once
 
 #include "core/report/report.h"
+#include "qt/kept_size.h"
 #include "qt/preview/preview_tools.h"
 
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 
 class QKeyEvent;
 class QLabel;
@@ -64,6 +66,7 @@ private:
     QLineEdit *m_sought;
     QLabel *m_found;
     QLabel *m_pageText;
+    std::optional<KeptSize> m_keptSize;
 };
 
 } // namespace zrv

@@ -3,9 +3,11 @@
 // A report that is only measured while its file is checked, and made where it is looked at, is that of a check which
 // writes every word.
 
+#include "core/mdlEncriptDecript.h"
 #include "tests/files/check_fixture.h"
 
 #include <random>
+#include <utility>
 
 namespace zrv {
 namespace {
@@ -123,6 +125,22 @@ TEST_F(CheckReportTest, ABlankLineEndsTheReportBehindTheGoodLinesBefore)
     EXPECT_EQ(outcome.errors, 1);
 }
 
+TEST_F(CheckReportTest, AVersionWithLineEndsOfItsOwnIsMeasuredAsItIsWritten)
+{
+    const TestLine payer = payerLine().with(22, EncodeBase64(u"1\r\n\r\n\r\n2"_s));
+    compare({payer, payeeLine(), payeeLine().with(2, u"1"_s)});
+    EXPECT_EQ(outcome.errors, 2);
+    const QStringList lines = text().split(u"\r\n"_s);
+    const qint64 second = report->nextError(report->nextError(-1));
+    for (qsizetype line = 0; line < lines.size() - 1; line += 9) {
+        // A report of which nothing was looked at yet counts the lines before.
+        check(FileKind::Wh, m_folder.filePath(u"WH138902.TXT"_s));
+        EXPECT_EQ(report->lines(line, 1), lines[line]) << line;
+        check(FileKind::Wh, m_folder.filePath(u"WH138902.TXT"_s));
+        EXPECT_EQ(report->nextError(std::min<qint64>(line + 5, second - 1)), second);
+    }
+}
+
 TEST_F(CheckReportTest, ARunThatIsCancelledBehindGoodLinesKeepsTheirReport)
 {
     QStringList lines{payerLine()};
@@ -137,6 +155,53 @@ TEST_F(CheckReportTest, ARunThatIsCancelledBehindGoodLinesKeepsTheirReport)
     EXPECT_TRUE(cancelled.write(sink));
     EXPECT_EQ(sink.text.size(), cancelled.length());
     EXPECT_EQ(sink.text.count(u"-- در حال کنترل خط شماره"_s), 71);
+}
+
+/// Checks the file, gives up line `line` (from 0) at the fourth question in it, and holds what is left of the report
+/// against the lines before.
+void expectGivenUp(FileKind kind, const QString &path, const CheckOptions &options, qint64 line)
+{
+    int asked = 0;
+    CheckReport report(kind, path, options, StandingClock);
+    const CheckOutcome ended =
+        report.run([&](const CheckPlace &place) { return place.state.records != line || ++asked < 4; });
+    EXPECT_EQ(asked, 4) << "one question stands before the line";
+    EXPECT_EQ(ended.end, CheckEnd::Cancelled);
+    EXPECT_EQ(ended.records, line);
+    EXPECT_EQ(ended.errors, 0);
+    TextSink sink;
+    EXPECT_TRUE(report.write(sink));
+    EXPECT_EQ(sink.text.size(), report.length());
+    EXPECT_EQ(sink.text.count(u"\r\n"_s), report.lineCount());
+    EXPECT_EQ(sink.text.count(u"-- در حال کنترل خط شماره"_s), line);
+}
+
+TEST_F(CheckReportTest, ALineOfVeryManyFieldsCanBeGivenUpAndTheReportEndsBeforeIt)
+{
+    const QString many(200'000, u',');
+    const QString salaries =
+        write(utf16File({payerLine(), payeeLine(), QString(payeeLine()) + many, payeeLine()}), u"WH138902.TXT"_s);
+    expectGivenUp(FileKind::Wh, salaries, options, 2);
+    const QString summaries = write(utf16File({summaryLine(), QString(summaryLine()) + many}), u"WK138902.TXT"_s);
+    expectGivenUp(FileKind::Wk, summaries, options, 1);
+}
+
+TEST_F(CheckReportTest, ALineOfVeryManyFieldsThatIsStillMeasuredWhenTheCheckIsThroughCanBeGivenUpToo)
+{
+    const QString path =
+        write(utf16File({payerLine(), QString(payeeLine()) + QString(2'000'000, u','), payeeLine().with(2, u""_s)}),
+              u"WH138902.TXT"_s);
+    bool isThrough = false;
+    CheckReport givenUp(FileKind::Wh, path, options, StandingClock);
+    const CheckOutcome ended = givenUp.run(
+        [&](const CheckPlace &place) { return place.state.records < 2 || !std::exchange(isThrough, true); });
+    EXPECT_EQ(ended.end, CheckEnd::Cancelled);
+    EXPECT_EQ(ended.records, 1);
+    EXPECT_EQ(ended.errors, 0);
+    TextSink sink;
+    EXPECT_TRUE(givenUp.write(sink));
+    EXPECT_EQ(sink.text.size(), givenUp.length());
+    EXPECT_FALSE(sink.text.contains(u"پايان عمليات"_s));
 }
 
 } // namespace

@@ -30,10 +30,12 @@ public:
 
     std::vector<Box> boxes;
     std::function<void()> onYield = [] {};
+    std::function<void()> onBox = [] {};
 
     Answer messageBox(int style, const QString &title, const QString &text) override
     {
         boxes.push_back({style, title, text});
+        onBox();
         return Answer::Ok;
     }
     QString programFolder() override { return m_folder; }
@@ -79,11 +81,11 @@ protected:
         return lines;
     }
 
-    /// Lets the user act at the second time that a run lets him: at the first it has not begun yet.
-    void whileRunning(const std::function<void()> &action)
+    /// Lets the user act at the second time that a run lets him, or later: at the first it has not begun yet.
+    void whileRunning(const std::function<void()> &action, int time = 2)
     {
-        platform.onYield = [action, times = 0]() mutable {
-            if (++times == 2)
+        platform.onYield = [action, time, times = 0]() mutable {
+            if (++times == time)
                 action();
         };
     }
@@ -104,6 +106,21 @@ TEST_F(ReadFiles, CancelEndsACheckAndKeepsWhatItHadReported)
     EXPECT_TRUE(platform.boxes.empty());
     EXPECT_FALSE(screen->PPICWaitingMessage.isVisible());
     EXPECT_TRUE(screen->cmdCheckHogogStructure.hasFocus());
+}
+
+TEST_F(ReadFiles, CancelEndsACheckInsideALineOfMillionsOfFields)
+{
+    const QString many(8'000'000, u',');
+    open(write(utf16File({QString(payerLine()) + many})),
+         write(utf16File({QString(summaryLine()) + many}), u"WK138902.TXT"_s));
+    for (Button *const button : {&screen->cmdCheckHogogStructure, &screen->cmdCheckKholStructure}) {
+        // The second time may come when the line was read, before it is looked at.
+        whileRunning([&] { EXPECT_TRUE(screen->userClick(screen->cmdCancel)); }, 4);
+        EXPECT_TRUE(screen->userClick(*button));
+        EXPECT_TRUE(platform.boxes.empty()) << "a run that comes to its end has a box";
+    }
+    EXPECT_EQ(screen->txtHogogStructure.lineCount(), 3) << "what stands before the line";
+    EXPECT_EQ(screen->txtKholStructure.lineCount(), 3);
 }
 
 TEST_F(ReadFiles, EscapeAndTheCloseBoxCancelFirst)
@@ -151,6 +168,28 @@ TEST_F(ReadFiles, CancelEndsALoadAndLeavesNoContents)
     EXPECT_TRUE(platform.boxes.empty());
 }
 
+TEST_F(ReadFiles, CancelEndsASortOrASearchOfManyRowsAndTheyStay)
+{
+    openWith(manyLines(60'000));
+    screen->userClick(screen->cmdHogogShow);
+    BrowsePanel &browse = screen->browse;
+    int cancelled = 0;
+    platform.onYield = [&] { cancelled += screen->userClick(screen->cmdCancel); };
+    screen->userCheck(browse.OptSort, true);
+    screen->userHead(browse.grid, 3);
+    EXPECT_EQ(cancelled, 1);
+    screen->userCheck(browse.OptSearch, true);
+    screen->userHead(browse.grid, 3);
+    browse.txtSearch.setText(u"هيچ"_s);
+    platform.boxes.clear();
+    screen->userClick(browse.cmdSearch);
+    EXPECT_EQ(cancelled, 2);
+    EXPECT_TRUE(platform.boxes.empty()) << "a search to the end has a box, as nothing is found";
+    EXPECT_EQ(browse.rowCount(), 60'000);
+    EXPECT_FALSE(screen->PPICWaitingMessage.isVisible());
+    EXPECT_TRUE(screen->cmdExit.isReachable());
+}
+
 TEST_F(ReadFiles, CancelOfTheLogLeavesItEmpty)
 {
     openWith(manyLines(60'000));
@@ -164,6 +203,37 @@ TEST_F(ReadFiles, CancelOfTheLogLeavesItEmpty)
     EXPECT_TRUE(cancels);
     EXPECT_EQ(QFileInfo(path(u"ErrorLog/HogogErrorLog.TXT"_s)).size(), 0);
     EXPECT_GT(screen->txtHogogStructure.lineCount(), 60'000) << "the run itself had come to its end";
+}
+
+TEST_F(ReadFiles, ALogThatCanNotBeMadeIsToldBeforeAnythingIsCleared)
+{
+    openWith(manyLines(3));
+    screen->userClick(screen->cmdCheckHogogStructure);
+    const qint64 lines = screen->txtHogogStructure.lineCount();
+    screen->userPage(screen->SSTab1, 1);
+    write("x", u"ErrorLog"_s);
+    screen->userClick(screen->chkCreatHogogErrorLogFile);
+    platform.boxes.clear();
+    screen->userClick(screen->cmdCheckHogogStructure);
+    ASSERT_EQ(platform.boxes.size(), 1);
+    EXPECT_EQ(platform.boxes[0].style, box::Plain);
+    EXPECT_TRUE(platform.boxes[0].text.contains(u" < "_s)) << platform.boxes[0].text.toStdString();
+    EXPECT_EQ(screen->SSTab1.page(), 1);
+    EXPECT_EQ(screen->txtHogogStructure.lineCount(), lines);
+}
+
+TEST_F(ReadFiles, AtTheBoxOfTheEndTheReportOfASummaryListIsThereAndThatOfASalaryListIsNot)
+{
+    open(write(utf16File(manyLines(3))), write(utf16File({summaryLine().with(19, u""_s)}), u"WK138902.TXT"_s));
+    std::vector<bool> isThere;
+    platform.onBox = [&] {
+        isThere = {screen->txtHogogStructure.lineCount() > 0, screen->txtKholStructure.lineCount() > 0};
+    };
+    screen->userClick(screen->cmdCheckKholStructure);
+    EXPECT_EQ(isThere, (std::vector{false, true})) << "of a run that fails, too";
+    screen->userClick(screen->cmdCheckHogogStructure);
+    EXPECT_EQ(isThere, (std::vector{false, true}));
+    EXPECT_GT(screen->txtHogogStructure.lineCount(), 0);
 }
 
 TEST_F(ReadFiles, ContentsStayWhateverBecomesOfTheFile)
@@ -238,14 +308,31 @@ TEST_F(ReadFiles, WhatIsNoFileIsRefused)
     }
 }
 
-TEST_F(ReadFiles, AFileThatShrinksDuringALoadIsTold)
+TEST_F(ReadFiles, AGigabyteInOneLineIsRefused)
 {
-    openWith(manyLines(60'000));
-    whileRunning([&] { ASSERT_TRUE(QFile::resize(path(u"WH138902.TXT"_s), 100)); });
-    screen->userClick(screen->cmdHogogShow);
-    ASSERT_EQ(platform.boxes.size(), 1);
-    EXPECT_TRUE(platform.boxes[0].text.startsWith(u"57 < "_s)) << platform.boxes[0].text.toStdString();
-    EXPECT_EQ(screen->browse.rowCount(), 0);
+    const QString wh = write("");
+    ASSERT_TRUE(QFile::resize(wh, qint64(1) << 30)); // a hole: it takes no room on the disk
+    open(wh);
+    for (Button *const button : {&screen->cmdHogogShow, &screen->cmdCheckHogogStructure}) {
+        platform.boxes.clear();
+        screen->userClick(*button);
+        ASSERT_EQ(platform.boxes.size(), 1);
+        EXPECT_TRUE(platform.boxes[0].text.startsWith(u"7 < "_s)) << platform.boxes[0].text.toStdString();
+    }
+}
+
+TEST_F(ReadFiles, AFileThatShrinksDuringALoadOrACheckIsTold)
+{
+    for (const bool isCheck : {false, true}) {
+        openWith(manyLines(60'000));
+        platform.boxes.clear();
+        whileRunning([&] { ASSERT_TRUE(QFile::resize(path(u"WH138902.TXT"_s), 100)); });
+        screen->userClick(isCheck ? screen->cmdCheckHogogStructure : screen->cmdHogogShow);
+        ASSERT_EQ(platform.boxes.size(), 1);
+        EXPECT_TRUE(platform.boxes[0].text.startsWith(u"57 < "_s)) << platform.boxes[0].text.toStdString();
+        EXPECT_EQ(screen->browse.rowCount(), 0);
+        EXPECT_EQ(screen->txtHogogStructure.lineCount(), 0);
+    }
 }
 
 TEST_F(ReadFiles, AReportWhoseFileChangedSaysSo)

@@ -56,6 +56,7 @@ const std::array Commands{
     Command{u"save"_s,              u"CONTROL PATH"_s,          When::AfterStart,  lines::save,            u"writes a control's text to a file in UTF-8"_s},
     Command{u"save-print"_s,        u"PATH"_s,                  When::Anywhere,    lines::savePrint,       u"writes the preview just shown as a PDF"_s},
     Command{u"picture"_s,           u"PATH"_s,                  When::AfterStart,  lines::picture,         u"with --widgets: the topmost window as a PNG"_s},
+    Command{u"picture-print"_s,     u"PATH"_s,                  When::AfterStart,  lines::picturePrint,    u"with --widgets: the preview just shown as a PNG"_s},
 };
 // clang-format on
 

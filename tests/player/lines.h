@@ -59,6 +59,7 @@ void rows(Player &player, const Line &line);
 void save(Player &player, const Line &line);
 void savePrint(Player &player, const Line &line);
 void picture(Player &player, const Line &line);
+void picturePrint(Player &player, const Line &line);
 
 } // namespace lines
 

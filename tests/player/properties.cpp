@@ -20,21 +20,6 @@ Answer ofKind(const Control &control, Read read)
     return kind ? Answer(read(*kind)) : Answer();
 }
 
-bool hasCaption(ControlKind kind)
-{
-    switch (kind) {
-    case ControlKind::Label:
-    case ControlKind::Button:
-    case ControlKind::OptionButton:
-    case ControlKind::CheckBox:
-    case ControlKind::Frame:
-    case ControlKind::MenuItem:
-        return true;
-    default:
-        return false;
-    }
-}
-
 Answer codeOf(const Control &control)
 {
     if (const auto *combo = dynamic_cast<const Combo *>(&control))
@@ -75,7 +60,7 @@ QString captionsOf(const Grid &grid)
 // clang-format off
 const std::array Properties{
     Property{u"text"_s,    [](const Control &c) -> Answer { return c.shownText(); }},
-    Property{u"caption"_s, [](const Control &c) { return hasCaption(c.kind()) ? Answer(c.shownText()) : Answer(); }},
+    Property{u"caption"_s, [](const Control &c) { return ofKind<Captioned>(c, [](const Captioned &o) { return o.caption(); }); }},
     Property{u"code"_s,    codeOf},
     Property{u"enabled"_s, [](const Control &c) -> Answer { return flagText(isEnabledThroughout(c)); }},
     Property{u"visible"_s, [](const Control &c) -> Answer { return flagText(c.isShown()); }},

@@ -47,6 +47,8 @@ public:
     virtual std::optional<QString> shownCell(const Grid &grid, int row, int column) = 0;
     /// Saves a picture of the topmost window. True without windows as well, where there is none to save.
     virtual bool picture(const QString &path) = 0;
+    /// The same of the preview that was last open.
+    virtual bool picturePrint(const QString &path) = 0;
     /// Writes a report as a PDF.
     virtual bool savePdf(const Report &report, const QString &path) = 0;
 };
@@ -77,6 +79,7 @@ public:
     std::optional<QString> shown(const Control &, QStringView) override { return {}; }
     std::optional<QString> shownCell(const Grid &, int, int) override { return {}; }
     bool picture(const QString &) override { return true; }
+    bool picturePrint(const QString &) override { return true; }
     bool savePdf(const Report &report, const QString &path) override { return writesPdf && writesPdf(report, path); }
 
     /// Painting needs what only the window side has, though it makes no window; null where there is none.

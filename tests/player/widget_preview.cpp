@@ -30,7 +30,7 @@ void WindowPlatform::showReport(const Report &report)
         else if (!window->pageText().endsWith(u' ' + QString::number(report.pageCount())))
             wrong = u"it shows "_s + quotedWord(window->pageText());
         // Painted once, as it is for a user.
-        window->grab();
+        lastPreview = window->grab();
         QKeyEvent leave(QEvent::KeyPress, Qt::Key_F9, Qt::NoModifier);
         QCoreApplication::sendEvent(window->focusWidget() ? window->focusWidget() : window, &leave);
         if (window->isVisible()) {
@@ -48,6 +48,11 @@ bool writePdfFile(const Report &report, const QString &path)
 {
     QSaveFile file(path);
     return file.open(QIODevice::WriteOnly) && writePdf(report, file) && file.commit();
+}
+
+bool WidgetStage::picturePrint(const QString &path)
+{
+    return m_platform.lastPreview.save(path, "PNG");
 }
 
 bool WidgetStage::savePdf(const Report &report, const QString &path)

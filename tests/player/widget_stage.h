@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "qt/qt_platform.h"
+#include "tests/forgetful_platform.h"
 #include "tests/player/stage.h"
+
+#include <QPixmap>
 
 #include <map>
 
@@ -12,12 +14,14 @@ class QPoint;
 namespace zrv::player {
 
 /// The windows of a sitting: those of the program, waited on by the player in place of a user.
-class WindowPlatform : public QtPlatform {
+class WindowPlatform : public ForgetfulPlatform {
 public:
     /// Boxes that the windows themselves raise go where the program's go.
     Platform *boxes = nullptr;
     /// What acts on each open screen in place of the user.
     std::map<Form *, std::function<void()>> users;
+    /// What the last preview looked like.
+    QPixmap lastPreview;
 
     Answer messageBox(int style, const QString &title, const QString &text) override
     {
@@ -60,6 +64,7 @@ public:
     std::optional<QString> shown(const Control &control, QStringView property) override;
     std::optional<QString> shownCell(const Grid &grid, int row, int column) override;
     bool picture(const QString &path) override;
+    bool picturePrint(const QString &path) override;
     bool savePdf(const Report &report, const QString &path) override;
 
 private:

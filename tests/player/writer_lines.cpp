@@ -71,4 +71,11 @@ void picture(Player &player, const Line &line)
         failLine(path + u" can't be written"_s);
 }
 
+void picturePrint(Player &player, const Line &line)
+{
+    const QString path = player.path(line.text(0));
+    if (!player.stage().picturePrint(path))
+        failLine(path + u" can't be written"_s);
+}
+
 } // namespace zrv::player::lines

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Combo boxes, lists, grids and tabs.
+#include "qt/look.h"
 #include "tests/qt/window_fixture.h"
 
 #include <QComboBox>
@@ -89,6 +90,34 @@ TEST_F(Lists, F4AndAltDownOpenTheListAndAPickIsTheRowsChoice)
         EXPECT_EQ(shown.line(form.combo).text(), u"ارديبهشت"_s);
         EXPECT_EQ(clicks, 1);
     }
+}
+
+TEST_F(Lists, TheRingOfTheFocusGoesRoundACombosWholeBox)
+{
+    look::setUp(*qApp);
+    QWidget &box = *shown.line(shown.form.combo).parentWidget();
+    const auto edge = [&box] { return box.grab().toImage().pixelColor(box.width() / 2, 1); };
+    const QColor ring = box.palette().color(QPalette::Highlight);
+    shown.form.combo.setFocus();
+    EXPECT_EQ(edge(), ring);
+    shown.form.grid.setFocus();
+    EXPECT_NE(edge(), ring);
+}
+
+TEST_F(Lists, ALongTextOfAComboThatIsLeftShowsHowItBegins)
+{
+    shown.form.combo.setItems({{QString(100, u'\u0628'), u"01"_s}});
+    QLineEdit &line = shown.line(shown.form.combo);
+    shown.form.combo.setFocus();
+    pressKey(line, Qt::Key_Down);
+    EXPECT_EQ(line.text().size(), 100);
+    pressKey(line, Qt::Key_End);
+    EXPECT_EQ(line.cursorPosition(), 100);
+    shown.form.grid.setFocus();
+    EXPECT_EQ(line.cursorPosition(), 0);
+    EXPECT_EQ(shown.form.combo.selStart(), 100) << "what the form knows of the text stays";
+    shown.form.combo.setText(QString(90, u'\u0628'));
+    EXPECT_EQ(line.cursorPosition(), 0) << "set by the program, it begins there, too";
 }
 
 TEST_F(Lists, AWheelOverAClosedComboChangesNothing)

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "app/catalogue.h"
 #include "core/screen.h"
+#include "qt/caption_label.h"
 #include "qt/difference.h"
 #include "qt/look.h"
-#include "tests/qt/window_fixture.h"
+#include "tests/qt/catalogue_fixture.h"
+
+#include <QPainter>
 
 #include <cmath>
 
@@ -40,6 +42,21 @@ TEST(Look, TextIsReadableSwitchedOnAndOff)
         EXPECT_GE(contrast(palette.color(group, QPalette::ButtonText), palette.color(group, QPalette::Button)), 4.5);
     }
     EXPECT_GE(contrast(palette.color(QPalette::HighlightedText), palette.color(QPalette::Highlight)), 4.5);
+    // What is selected in a field that is switched off.
+    EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::HighlightedText),
+                       palette.color(QPalette::Disabled, QPalette::Highlight)),
+              3.0);
+}
+
+TEST(Look, DrawingsAreSeenSwitchedOnAndOff)
+{
+    // Those of buttons take the colour of the highlight, or of switched-off letters.
+    const QPalette palette = look::palette();
+    for (const QPalette::ColorRole ground : {QPalette::Button, QPalette::Window, QPalette::Light})
+        EXPECT_GE(contrast(palette.color(QPalette::Highlight), palette.color(ground)), 4.5);
+    EXPECT_GE(contrast(palette.color(QPalette::Disabled, QPalette::ButtonText),
+                       palette.color(QPalette::Disabled, QPalette::Button)),
+              3.0);
 }
 
 TEST(Look, TextIsReadableOnEveryColourThatAScreenGivesAField)
@@ -93,14 +110,10 @@ bool hasBorder(QWidget &field, const QColor &color)
 
 QStringList redFields(const QString &screenName)
 {
-    QuietPlatform platform;
-    Program program(platform);
-    fillCatalogue(program.catalogue);
-    const std::unique_ptr<Screen> screen = program.catalogue.make(screenName, program);
-    const FormWindow window(*screen, platform, nullptr);
+    const CatalogueWindow shown(screenName);
     QStringList names;
-    for (const Control *control : screen->controls())
-        if (control->kind() == ControlKind::TextBox && hasBorder(*window.inputFor(*control), QColor(0xC62828)))
+    for (const Control *control : shown.screen->controls())
+        if (control->kind() == ControlKind::TextBox && hasBorder(*shown.window->inputFor(*control), QColor(0xC62828)))
             names += control->name();
     return names;
 }
@@ -126,6 +139,37 @@ TEST(Look, RedBorderIsSeenInsideTheFocusRing)
     field->setFocus();
     EXPECT_TRUE(hasBorder(*field, look::palette().color(QPalette::Highlight)));
     EXPECT_TRUE(hasBorder(*field, QColor(0xC62828)));
+}
+
+TEST(Look, ACaptionWithoutRoomEndsInDots)
+{
+    const QString payer = u"شرکت توليدي نمونه نيلگون - شعبه دفتر مرکزي"_s;
+    const auto pictureOf = [](const QString &text, int width) {
+        CaptionLabel label(false, nullptr);
+        label.setText(text);
+        label.resize(width, 30);
+        return label.grab().toImage();
+    };
+    const int width = QFontMetrics(QApplication::font()).horizontalAdvance(payer) / 2;
+    const QString cut = QFontMetrics(QApplication::font()).elidedText(payer, Qt::ElideRight, width);
+    ASSERT_NE(cut, payer);
+    QImage plain(pictureOf(payer, width).size(), QImage::Format_RGB32);
+    CaptionLabel ground(false, nullptr);
+    plain.fill(ground.palette().color(QPalette::Window));
+    QPainter painter(&plain);
+    painter.setFont(QApplication::font());
+    painter.setPen(ground.palette().color(QPalette::WindowText));
+    painter.drawText(plain.rect(), Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextForceRightToLeft,
+                     cut);
+    painter.end();
+    EXPECT_EQ(pictureOf(payer, width).convertToFormat(QImage::Format_RGB32), plain);
+}
+
+TEST(Look, WhatWasEncodedReadsFromTheLeft)
+{
+    const CatalogueWindow shown(u"frmEncodeDecode"_s);
+    // Its equals signs end it.
+    EXPECT_EQ(shown.window->widgetFor(*shown.screen->find(u"lblResult"))->layoutDirection(), Qt::LeftToRight);
 }
 
 TEST(Difference, TheOneRunThatDiffersIsFound)

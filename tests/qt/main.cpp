@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QFontDatabase>
+#include <QSettings>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 
 #include <cstdio>
 #include <gtest/gtest.h>
@@ -15,6 +17,8 @@ int main(int argc, char *argv[])
         qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" ZRV_SOURCE_DIR "/tests/qt/display_1024.json");
     testing::InitGoogleTest(&argc, argv);
     QStandardPaths::setTestModeEnabled(true);
+    const QTemporaryDir settings;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
     QApplication application(argc, argv);
     zrv::look::setUp(application);
     if (!QFontDatabase::families(QFontDatabase::Arabic).contains(QStringLiteral("Noto Sans Arabic"))) {

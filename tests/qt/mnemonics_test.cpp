@@ -5,7 +5,7 @@
 #include "core/screen.h"
 #include "qt/mnemonics.h"
 #include "tests/print_text.h"
-#include "tests/qt/window_fixture.h"
+#include "tests/qt/catalogue_fixture.h"
 
 #include <QMenuBar>
 #include <QPushButton>
@@ -144,16 +144,6 @@ protected:
     QuietPlatform platform;
     Program program{platform};
 };
-
-std::vector<std::string> screenNames()
-{
-    Catalogue catalogue;
-    fillCatalogue(catalogue);
-    std::vector<std::string> names;
-    for (const QString &name : catalogue.names())
-        names.push_back(name.toStdString());
-    return names;
-}
 
 } // namespace
 

@@ -2,6 +2,7 @@
 // One program works on a store at a time; who comes later, or after a crash.
 #include "core/platform/tool_process.h"
 #include "core/store/new_store.h"
+#include "core/store/store_backups.h"
 #include "core/store/store_lock.h"
 #include "qt/first_window.h"
 #include "qt/start.h"
@@ -14,6 +15,7 @@
 #include <QSysInfo>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QWidget>
 
 #include <gtest/gtest.h>
 #include <thread>
@@ -155,15 +157,42 @@ TEST_F(OneProgram, WhereTheFirstDoesNotAnswerItIsSaidWhereItRuns)
 TEST_F(OneProgram, TheFirstStartMakesTheFolderWithAnEmptyStoreAndALaterOneDoesNot)
 {
     Told platform(m_folder.filePath(u"share/ZRVClient"_s));
-    EXPECT_TRUE(isFirstStart(platform));
+    EXPECT_TRUE(isFirstStart(platform, true));
     EXPECT_TRUE(makeFirstStore(platform));
     EXPECT_EQ(platform.texts, QStringList());
     tellOfFirstStore(platform);
     EXPECT_EQ(platform.texts.size(), 1);
     EXPECT_TRUE(platform.texts.value(0).contains(platform.programFolder()));
     ASSERT_TRUE(QFile::remove(m_folder.filePath(u"share/ZRVClient/DBZorvan.mdb"_s))) << "it was made";
-    EXPECT_FALSE(isFirstStart(platform));
+    EXPECT_FALSE(isFirstStart(platform, true));
     EXPECT_FALSE(QFile::exists(m_folder.filePath(u"share/ZRVClient/DBZorvan.mdb"_s)));
+}
+
+TEST_F(OneProgram, OnlyInAPortableFolderTheStoreIsMadeBesideTheProgram)
+{
+    Told platform(m_folder.path());
+    EXPECT_FALSE(isFirstStart(platform, false)) << "any other folder without a store has lost it";
+    ASSERT_TRUE(QFile(m_folder.filePath(PortableSign)).open(QIODevice::WriteOnly));
+    EXPECT_TRUE(isFirstStart(platform, false));
+    EXPECT_TRUE(makeFirstStore(platform));
+    EXPECT_TRUE(QFile::exists(store()));
+    EXPECT_FALSE(isFirstStart(platform, false));
+}
+
+TEST_F(OneProgram, APortableFolderWithCopiesHasLostItsStore)
+{
+    ASSERT_TRUE(QFile(m_folder.filePath(PortableSign)).open(QIODevice::WriteOnly));
+    ASSERT_TRUE(QDir().mkpath(backupFolder(store())));
+    Told platform(m_folder.path());
+    EXPECT_FALSE(isFirstStart(platform, false));
+}
+
+TEST_F(OneProgram, AStoreThatAnotherFirstStartHasMadeMeanwhileIsTaken)
+{
+    createStore(store());
+    Told platform(m_folder.path());
+    EXPECT_TRUE(makeFirstStore(platform));
+    EXPECT_EQ(platform.texts, QStringList());
 }
 
 TEST_F(OneProgram, AStoreThatCannotBeMadeIsTold)
@@ -185,6 +214,27 @@ TEST_F(OneProgram, TheFirstIsAskedToComeToTheFront)
     EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }));
     second.join();
     EXPECT_TRUE(answered);
+}
+
+TEST_F(OneProgram, AFirstThatDoesNotListenYetIsWaitedFor)
+{
+    bool answered = false;
+    std::thread second([&] { answered = FirstWindow::comesToTheFront(store()); });
+    QTest::qWait(200);
+    int raised = 0;
+    const FirstWindow first(store(), [&] { ++raised; });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return raised == 1; }));
+    second.join();
+    EXPECT_TRUE(answered);
+}
+
+TEST_F(OneProgram, AWindowThatWasPutAsideComesBack)
+{
+    QWidget window;
+    window.showMinimized();
+    raiseWindows();
+    EXPECT_FALSE(window.isMinimized());
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
 }
 
 TEST_F(OneProgram, ASecondStartEndsAndTheFirstGoesOn)

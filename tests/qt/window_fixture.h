@@ -6,7 +6,7 @@
 #include "core/basic/run_time_error.h"
 #include "core/forms/form.h"
 #include "qt/form_window.h"
-#include "qt/qt_platform.h"
+#include "tests/forgetful_platform.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -32,7 +32,7 @@ struct ShownBox {
 };
 
 /// The real platform without a user: boxes are noted and answered, the clock stands.
-class QuietPlatform : public QtPlatform {
+class QuietPlatform : public ForgetfulPlatform {
 public:
     Answer messageBox(int style, const QString &title, const QString &text) override
     {
@@ -43,18 +43,6 @@ public:
     }
     QDate today() override { return {2010, 5, 24}; }
     QString programFolder() override { return folder; }
-    QString setting(const QString &section, const QString &key, const QString &fallback) override
-    {
-        Q_UNUSED(section);
-        Q_UNUSED(key);
-        return fallback;
-    }
-    void saveSetting(const QString &section, const QString &key, const QString &value) override
-    {
-        Q_UNUSED(section);
-        Q_UNUSED(key);
-        Q_UNUSED(value);
-    }
 
     std::vector<ShownBox> boxes;
     std::function<void()> onBox;

@@ -114,5 +114,12 @@ TEST(CommandLine, VersionIsTheProgramsOwn)
     EXPECT_EQ(zrvstore({u"--version"_s}).out, u"zrvstore 1.1.38\n"_s);
 }
 
+TEST(CommandLine, WhatCanNotBeWrittenIsToldAndNoSuccess)
+{
+    const Outcome outcome = zrvstore({u"--help"_s}, u"/dev/full"_s);
+    EXPECT_EQ(outcome.exitCode, 2);
+    EXPECT_EQ(outcome.err, u"zrvstore: can't write: the disk is full, or nobody reads any more\n"_s);
+}
+
 } // namespace
 } // namespace zrv::storetool

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "tests/print_text.h"
+#include "tools/terminal/failure.h"
 #include "tools/zrvstore/create.h"
-#include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/store_folder.h"
 #include "tools/zrvstore/verify.h"
 
@@ -91,10 +91,12 @@ struct Outcome {
     QString err;
 };
 
-/// Runs the program itself.
-inline Outcome zrvstore(const QStringList &words)
+/// Runs the program itself; with a path its output goes there.
+inline Outcome zrvstore(const QStringList &words, const QString &output = {})
 {
     QProcess process;
+    if (!output.isEmpty())
+        process.setStandardOutputFile(output);
     process.start(QStringLiteral(ZRVSTORE), words);
     EXPECT_TRUE(process.waitForFinished(60'000)) << "zrvstore " << words.join(u' ').toStdString();
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);

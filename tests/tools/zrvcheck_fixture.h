@@ -22,9 +22,12 @@ protected:
         QString err;
     };
 
-    Run zrvcheck(const QStringList &words)
+    /// Runs the program itself; with a path its output goes there.
+    Run zrvcheck(const QStringList &words, const QString &output = {})
     {
         QProcess process;
+        if (!output.isEmpty())
+            process.setStandardOutputFile(output);
         process.setWorkingDirectory(m_folder.path());
         process.start(QStringLiteral(ZRVCHECK), words);
         EXPECT_TRUE(process.waitForFinished());

@@ -1,10 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "core/mdlEncriptDecript.h"
 #include "files/check_catalogue.h"
 #include "files/check_words.h"
 #include "tests/tools/zrvcheck_fixture.h"
+#include "tools/terminal/failure.h"
 #include "tools/zrvcheck/check_files.h"
 #include "tools/zrvcheck/file_list.h"
 #include "tools/zrvcheck/finding_lines.h"
+
+#include <QRegularExpression>
 
 #include <set>
 
@@ -141,6 +145,39 @@ TEST_F(ZrvCheck, ControlCharactersOfAFileDoNotReachTheTerminal)
     EXPECT_TRUE(run.out.contains(u"« \uFFFD[2Jx\uFFFDy»"_s));
 }
 
+TEST_F(ZrvCheck, AVersionIsShownInOneLineAndNoMoreThanItsBeginning)
+{
+    const QString version = EncodeBase64(QString(u"1\r\n2"_s + QString(1000, u'x')));
+    write(utf16File({payerLine().with(22, version), payeeLine()}), u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"WH138902.TXT"_s});
+    EXPECT_EQ(run.out.count(u'\n'), 3) << "the error, and the table's two lines";
+    EXPECT_TRUE(run.out.contains(u" 1\uFFFD\uFFFD2"_s + QString(196, u'x') + u"… ميباشد.\n"_s))
+        << run.out.toStdString();
+}
+
+/// The words of a page of the manual in one row, without their layout.
+QString wordsOfPage(const QString &path)
+{
+    static const QRegularExpression Layout(u"^\\.(TH|SH|TP|PP|br|nf|fi|\\\\\").*$"_s,
+                                           QRegularExpression::MultilineOption);
+    static const QRegularExpression Font(u"^\\.[BIR]+ "_s, QRegularExpression::MultilineOption);
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QString page = QString::fromUtf8(file.readAll());
+    return page.remove(Layout).remove(Font).remove(u'"').replace(u"\\-"_s, u"-"_s).simplified();
+}
+
+TEST_F(ZrvCheck, TheManualPageSaysWhatHelpSays)
+{
+    static const QRegularExpression NextParagraph(u"\n\n(?:exit)?|\n(?=--| {9}\\d)"_s);
+    const QString page = wordsOfPage(QStringLiteral(ZRV_SOURCE_DIR "/packaging/man/zrvcheck.1"));
+    const QString help = zrvcheck({u"--help"_s}).out;
+    const QStringList paragraphs = help.sliced(help.indexOf(u"Each PATH"_s)).split(NextParagraph);
+    EXPECT_EQ(paragraphs.size(), 1 + 6 + 3);
+    for (const QString &paragraph : paragraphs)
+        EXPECT_TRUE(page.contains(paragraph.simplified())) << paragraph.toStdString();
+}
+
 TEST_F(ZrvCheck, WrongWordsAreRefused)
 {
     for (const QStringList &words : {QStringList{}, QStringList{u"--wrong"_s, u"x"_s}, QStringList{u"--report"_s},
@@ -160,6 +197,17 @@ TEST_F(ZrvCheck, ARefusedReportFileIsSaid)
     const Run run = zrvcheck({u"--report"_s, u"none/report"_s, u"WH138902.TXT"_s});
     EXPECT_EQ(run.status, 2);
     EXPECT_TRUE(run.err.startsWith(u"zrvcheck: "_s));
+}
+
+TEST_F(ZrvCheck, AReportInThePlaceOfAFileThatIsToBeCheckedIsRefused)
+{
+    write(m_good, u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"--report"_s, u"./WH138902.TXT"_s, u"."_s});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_TRUE(run.err.startsWith(u"zrvcheck: the report would take the place of"_s)) << run.err.toStdString();
+    QFile file(m_folder.filePath(u"WH138902.TXT"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), m_good);
 }
 
 TEST_F(ZrvCheck, EveryFindingIsListedUnderANameOfItsOwn)
@@ -269,12 +317,33 @@ TEST_F(ZrvCheck, AnErrorHasItsOwnWordsHoweverOftenOthersCame)
     }
 }
 
+TEST_F(ZrvCheck, AFileThatShrinksWhileItsReportIsWrittenIsSaid)
+{
+    QStringList lines(20'000, payeeLine());
+    lines[0] = payerLine();
+    const QString file = write(utf16File(lines), u"WH138902.TXT"_s);
+    QByteArray out;
+    OrderedOutput list([&](QByteArrayView text) { out.append(text); });
+    OrderedOutput reports([&](QByteArrayView) { QFile::resize(file, 4000); });
+    const auto results = checkFiles({{file}, {.report = u"-"_s}, StandingClock, 1}, list, &reports);
+    EXPECT_EQ(exitStatus(results), 2);
+    EXPECT_TRUE(out.contains("WH138902.TXT: the file was changed while its report was written\n")) << out.toStdString();
+}
+
 TEST_F(ZrvCheck, AnOutputThatFailsIsHeardOfAtTheEnd)
 {
     const QString file = write(utf16File({payerLine()}), u"WH138902.TXT"_s);
-    OrderedOutput list([](QByteArrayView) { throw Refusal(u"full"_s); });
+    OrderedOutput list([](QByteArrayView) { throw Failure(u"full"_s); });
     (void)checkFiles({{file, file, file}, Request{}, StandingClock, 2}, list, nullptr);
-    EXPECT_THROW(list.finish(), Refusal);
+    EXPECT_THROW(list.finish(), Failure);
+}
+
+TEST_F(ZrvCheck, WhatCanNotBeWrittenIsToldAndNoSuccess)
+{
+    write(m_good, u"WH138902.TXT"_s);
+    const Run run = zrvcheck({u"WH138902.TXT"_s}, u"/dev/full"_s);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, u"zrvcheck: can't write: the disk is full, or nobody reads any more\n"_s);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 // The upgrade of an old store: what it leaves, what it logs, and that there is always a way back.
 
+#include "core/store/store_backups.h"
 #include "core/store/store_copy.h"
 #include "core/store/store_error.h"
 #include "tests/failing_disk.h"
@@ -10,6 +11,7 @@
 #include "upkeep/base_data_steps.h"
 #include "upkeep/column_steps.h"
 #include "upkeep/frmUpgradeDatabaseStructureAndUpdateUserRecords.h"
+#include "upkeep/frmUpgradeZRVtbKarkonan.h"
 #include "upkeep/user_codes.h"
 
 #include <QElapsedTimer>
@@ -42,13 +44,7 @@ protected:
     [[nodiscard]] QStringList log() const { return screen->txtLog.text().split(u"\r\n"_s); }
     [[nodiscard]] QString copyPath() const { return path(u"CopyDBZorvan.mdb"_s); }
 
-    /// The tables of the safety copy, put into a folder of their own as the store.
-    [[nodiscard]] QString dumpOfTheCopy() const
-    {
-        const QTemporaryDir restored;
-        EXPECT_TRUE(QFile::copy(copyPath(), restored.filePath(u"DBZorvan.mdb"_s)));
-        return dump(connectionTo(restored.path()));
-    }
+    [[nodiscard]] QString dumpOfTheCopy() const { return dumpOf(copyPath()); }
 
     static void compareWithApproved(const QString &received, const QString &name)
     {
@@ -269,6 +265,48 @@ TEST_F(UpgradeTest, CopyIsTheStoreBeforeTheFirstChangeAndReplacesAnEarlierOne)
     run();
     EXPECT_EQ(dumpOfTheCopy(), before);
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), (QStringList{u"CopyDBZorvan.mdb"_s, u"DBZorvan.mdb"_s}));
+}
+
+TEST_F(UpgradeTest, DatedCopyIsTheStoreBeforeTheFirstChangeAsWell)
+{
+    makeOldStore();
+    const QString before = dump();
+    run();
+    EXPECT_EQ(backupNames(path(u"DBZorvan.mdb"_s)), QStringList{u"DBZorvan-13890303-103000.mdb"_s});
+    EXPECT_EQ(dumpOf(path(u"Backups/DBZorvan-13890303-103000.mdb"_s)), before);
+    EXPECT_TRUE(log().filter(u"Backups"_s).isEmpty()) << "the log tells of the safety copy alone";
+}
+
+TEST_F(UpgradeTest, DatedCopyThatCannotBeMadeAsksNothingBesideTheSafetyCopy)
+{
+    makeOldStore();
+    const QString before = dump();
+    QFile inItsPlace(path(u"Backups"_s));
+    ASSERT_TRUE(inItsPlace.open(QIODevice::WriteOnly));
+    run();
+    EXPECT_TRUE(platform.boxes.empty());
+    EXPECT_EQ(dumpOfTheCopy(), before);
+    EXPECT_NE(dump(), before);
+}
+
+TEST_F(UpgradeTest, DialogueOfTheCodesMakesNoCopyOfAStoreThatIsAlteredByHalf)
+{
+    makeOldStore();
+    sql(u"UPDATE ZRVtbKarkonan Set Rasteh = '10'"_s);
+    const QString before = dump();
+    bool hasMoved = false;
+    platform.onModal = [&](Form &form) {
+        auto &dialogue = dynamic_cast<frmUpgradeZRVtbKarkonan &>(form);
+        dialogue.load();
+        dialogue.activate();
+        ASSERT_TRUE(dialogue.userCheckItem(dialogue.lstJobs, 0, true));
+        hasMoved = dialogue.userClick(dialogue.cmdDeleteAndUpdate);
+    };
+    run();
+    ASSERT_TRUE(hasMoved);
+    EXPECT_EQ(rows(u"SELECT MelliCode FROM ZRVtbKarkonan WHERE Rasteh = '10'"_s), QStringList());
+    EXPECT_EQ(backupNames(path(u"DBZorvan.mdb"_s)).size(), 1);
+    EXPECT_EQ(dumpOf(path(u"Backups/DBZorvan-13890303-103000.mdb"_s)), before);
 }
 
 class NoCopy : public UpgradeTest {

@@ -134,6 +134,13 @@ protected:
         return lines.join(u'\n') + u'\n';
     }
     [[nodiscard]] QString dump() const { return dump(program.StoreConnectionString); }
+    /// The tables of a copy, put into a folder of their own as the store.
+    [[nodiscard]] static QString dumpOf(const QString &copy)
+    {
+        const QTemporaryDir restored;
+        EXPECT_TRUE(QFile::copy(copy, restored.filePath(u"DBZorvan.mdb"_s))) << copy.toStdString();
+        return dump(connectionTo(restored.path()));
+    }
 
     /// In memory where the system has a place for it: an upgrade is some hundred flushed statements.
     const QTemporaryDir folder{(QDir(u"/dev/shm"_s).exists() ? u"/dev/shm"_s : QDir::tempPath()) + u"/zrv-XXXXXX"_s};

@@ -106,7 +106,11 @@ FileResult checkFile(const QString &path, const CheckJob &job, FileOutput &list,
     // Only now is it known whether there is a report.
     if (writesReport && outcome.showsReport) {
         Utf8Report report(rules, options, job.clock, reports);
-        StructureCheck(rules, path, options).run(report);
+        const CheckOutcome told = StructureCheck(rules, path, options).run(report);
+        if (told.end != outcome.end || told.records != outcome.records || told.errors != outcome.errors) {
+            result.isStopped = result.isUnreadable = true;
+            list.addText(path + u": the file was changed while its report was written\n"_s);
+        }
     }
     return result;
 }

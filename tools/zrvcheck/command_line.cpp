@@ -3,6 +3,7 @@
 
 #include "core/basic/text.h"
 #include "files/check_catalogue.h"
+#include "tools/terminal/failure.h"
 
 #include <algorithm>
 #include <iterator>
@@ -39,14 +40,14 @@ void readOption(Request &request, const QStringList &words, qsizetype &next)
     const QString name = word.left(equals);
     const auto option = std::ranges::find(Options, QStringView(name), &Option::name);
     if (option == std::end(Options))
-        throw Refusal(u"there is no option '"_s + name + u"'; zrvcheck --help names them"_s);
+        throw Failure(u"there is no option '"_s + name + u"'; zrvcheck --help names them"_s);
     if (!option->hasValue && equals >= 0)
-        throw Refusal(name + u" takes no value"_s);
+        throw Failure(name + u" takes no value"_s);
     QString value;
     if (option->hasValue) {
         value = equals >= 0 ? word.mid(equals + 1) : words.value(next++);
         if (value.isEmpty())
-            throw Refusal(name + u" needs a value"_s);
+            throw Failure(name + u" needs a value"_s);
     }
     option->set(request, value);
 }
@@ -68,7 +69,7 @@ Request readCommandLine(const QStringList &words)
         }
     }
     if (request.command == Command::Check && (request.paths.isEmpty() || request.paths.contains(QString())))
-        throw Refusal(u"no file and no folder to check; zrvcheck --help tells more"_s);
+        throw Failure(u"no file and no folder to check; zrvcheck --help tells more"_s);
     return request;
 }
 

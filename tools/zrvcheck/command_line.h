@@ -4,26 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-#include <exception>
-
 namespace zrv::checktool {
-
-/// Why the command can't be done, in one line of English for the person at the terminal.
-class Refusal : public std::exception {
-public:
-    explicit Refusal(QString reason)
-        : m_reason(std::move(reason))
-        , m_what(m_reason.toUtf8())
-    {
-    }
-
-    [[nodiscard]] const QString &reason() const { return m_reason; }
-    [[nodiscard]] const char *what() const noexcept override { return m_what.constData(); }
-
-private:
-    QString m_reason;
-    QByteArray m_what;
-};
 
 enum class Command { Help, Version, Rules, Check };
 
@@ -37,7 +18,7 @@ struct Request {
     bool summary = false; ///< the table alone
 };
 
-/// Reads the words behind the program's name. Raises Refusal for what it doesn't understand.
+/// Reads the words behind the program's name. Raises Failure for what it doesn't understand.
 [[nodiscard]] Request readCommandLine(const QStringList &words);
 
 [[nodiscard]] QString helpText();

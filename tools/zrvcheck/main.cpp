@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "core/basic/run_time_error.h"
-#include "core/basic/safe_file.h"
+#include "core/basic/file_thread.h"
 #include "core/public/solar_date.h"
+#include "tools/terminal/failure.h"
+#include "tools/terminal/terminal.h"
 #include "tools/zrvcheck/check_files.h"
 #include "tools/zrvcheck/file_list.h"
 
 #include <QDateTime>
-#include <QFile>
+#include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
-#include <memory>
 #include <optional>
 #include <thread>
 
@@ -18,16 +19,11 @@ namespace {
 using namespace zrv;
 using namespace zrv::checktool;
 
-void print(std::FILE *stream, QByteArrayView utf8)
+/// Raises Failure where the text doesn't arrive: nothing more has to be checked then.
+void printSurely(std::FILE *stream, QByteArrayView utf8)
 {
-    const auto size = static_cast<std::size_t>(utf8.size());
-    if (std::fwrite(utf8.data(), 1, size, stream) != size)
-        throw Refusal(QStringLiteral("can't write: the disk is full, or nobody reads any more"));
-}
-
-void print(std::FILE *stream, const QString &text)
-{
-    print(stream, QByteArrayView(text.toUtf8()));
+    print(stream, utf8);
+    expectWritten(stream);
 }
 
 QString now()
@@ -36,37 +32,54 @@ QString now()
     return SolarDate(moment.date()) + u" - " + moment.time().toString(u"HH:mm:ss");
 }
 
+/// A slip on the command line must not cost a file that is handed in.
+void refuseReportInPlaceOf(const QStringList &files, const QString &report)
+{
+    const QFileInfo place(report);
+    const auto isPlace = [&](const QString &file) { return QFileInfo(file) == place; };
+    if (place.exists() && std::ranges::any_of(files, isPlace))
+        throw Failure(u"the report would take the place of a file that is to be checked: " + report);
+}
+
 int check(const Request &request)
 {
     const QStringList files = filesOf(request.paths);
     if (files.isEmpty())
-        throw Refusal(QStringLiteral("no file named WH or WK, year, month and .TXT lies there"));
+        throw Failure(QStringLiteral("no file named WH or WK, year, month and .TXT lies there"));
     const bool reportsToOutput = request.report == u"-";
     std::optional<SafeFile> file;
-    if (!request.report.isEmpty() && !reportsToOutput)
+    if (!request.report.isEmpty() && !reportsToOutput) {
+        refuseReportInPlaceOf(files, request.report);
         file.emplace(request.report);
+    }
+    std::optional<FileThread> fileThread;
+    if (file)
+        fileThread.emplace(*file);
 
     // What isn't a report goes to standard error where reports take standard output.
-    OrderedOutput list([&](QByteArrayView text) { print(reportsToOutput ? stderr : stdout, text); });
+    OrderedOutput list([&](QByteArrayView text) { printSurely(reportsToOutput ? stderr : stdout, text); });
     OrderedOutput reports([&](QByteArrayView text) {
-        if (file)
-            file->write(text.data(), static_cast<std::size_t>(text.size()));
+        if (fileThread)
+            fileThread->write(text);
         else
-            print(stdout, text);
+            printSurely(stdout, text);
     });
     const CheckJob job{files, request, now, std::thread::hardware_concurrency()};
     const std::vector<FileResult> results = checkFiles(job, list, request.report.isEmpty() ? nullptr : &reports);
     list.finish();
     reports.finish();
-    if (file)
+    if (file) {
+        fileThread->finish();
         file->commit();
+    }
     if (!reportsToOutput)
         print(stdout, tableText(results));
     return exitStatus(results);
 }
 
-int run(const Request &request)
+int run(const QStringList &words)
 {
+    const Request request = readCommandLine(words);
     switch (request.command) {
     case Command::Help:
         print(stdout, helpText());
@@ -87,22 +100,5 @@ int run(const Request &request)
 
 int main(int argc, char **argv)
 {
-    QStringList words;
-    for (int i = 1; i < argc; ++i)
-        words.append(QFile::decodeName(argv[i]));
-    QString failure;
-    try {
-        const int status = run(readCommandLine(words));
-        if (std::fflush(stdout) == 0)
-            return status;
-        failure = QStringLiteral("can't write: the disk is full, or nobody reads any more");
-    } catch (const Refusal &refusal) {
-        failure = refusal.reason();
-    } catch (const RunTimeError &error) {
-        failure = QString(error.description()).replace(u'\n', u' ');
-    } catch (const std::exception &error) {
-        failure = QString::fromUtf8(error.what());
-    }
-    std::fputs(QString(u"zrvcheck: " + failure + u'\n').toUtf8().constData(), stderr);
-    return 2;
+    return zrv::runTool(u"zrvcheck", argc, argv, run);
 }

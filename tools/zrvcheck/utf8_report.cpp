@@ -30,7 +30,7 @@ void Utf8Report::addMade(Event event)
 }
 
 template <typename Event>
-void Utf8Report::addKept(Shelf &shelf, std::size_t place, const void *about, Event event)
+void Utf8Report::addKept(Shelf shelf, std::size_t place, const void *about, Event event)
 {
     Kept &kept = shelf[place % shelf.size()];
     if (kept.about != about)

@@ -5,6 +5,7 @@
 #include "tools/zrvcheck/file_output.h"
 
 #include <array>
+#include <span>
 
 namespace zrv::checktool {
 
@@ -40,22 +41,23 @@ private:
         const void *about = nullptr;
         std::string utf8;
     };
-    using Shelf = std::array<Kept, 64>;
+    using Shelf = std::span<Kept>;
 
     template <typename Event>
     [[nodiscard]] std::string made(Event event);
     template <typename Event>
     void addMade(Event event);
     template <typename Event>
-    void addKept(Shelf &shelf, std::size_t place, const void *about, Event event);
+    void addKept(Shelf shelf, std::size_t place, const void *about, Event event);
     void addValue(QStringView value);
 
     FileKind m_kind;
     FileOutput &m_output;
     Text m_text;
     ReportWriter m_writer;
-    Shelf m_fields; ///< by their numbers
-    Shelf m_passed; ///< by the words' addresses
+    std::array<Kept, 64> m_fields; ///< by their numbers
+    /// By the words' addresses, which lie within 64 KB; two texts that fall on one place are made again and again.
+    std::array<Kept, 1024> m_passed;
     qint64 m_line = -1;
     std::string m_lineTail; ///< behind each value of that line
 };

@@ -4,8 +4,8 @@
 #include "core/basic/run_time_error.h"
 #include "core/store/schema.h"
 #include "core/store/store_copy.h"
+#include "tools/terminal/failure.h"
 #include "tools/zrvstore/database.h"
-#include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/store_folder.h"
 #include "tools/zrvstore/verify.h"
 

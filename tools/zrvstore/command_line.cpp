@@ -2,7 +2,7 @@
 #include "tools/zrvstore/command_line.h"
 
 #include "core/basic/text.h"
-#include "tools/zrvstore/failure.h"
+#include "tools/terminal/failure.h"
 
 #include <algorithm>
 #include <iterator>

@@ -5,7 +5,7 @@
 #include "core/store/new_store.h"
 #include "core/store/schema.h"
 #include "tools/sample/sample_store.h"
-#include "tools/zrvstore/failure.h"
+#include "tools/terminal/failure.h"
 #include "tools/zrvstore/store_folder.h"
 
 #include <QDir>

@@ -2,7 +2,7 @@
 #include "tools/zrvstore/database.h"
 
 #include "core/store/foreign_journal.h"
-#include "tools/zrvstore/failure.h"
+#include "tools/terminal/failure.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/zrvstore/kept_original.h"
 
-#include "tools/zrvstore/failure.h"
+#include "tools/terminal/failure.h"
 
 #include <QDir>
 #include <QFile>

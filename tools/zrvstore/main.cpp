@@ -1,26 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "tools/terminal/terminal.h"
 #include "tools/zrvstore/backup.h"
 #include "tools/zrvstore/command_line.h"
 #include "tools/zrvstore/create.h"
-#include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/restore.h"
 #include "tools/zrvstore/store_folder.h"
 #include "tools/zrvstore/takeover.h"
 #include "tools/zrvstore/verify.h"
 
-#include <QFile>
-
 #include <cstdio>
 
 namespace {
 
+using namespace zrv;
 using namespace zrv::storetool;
-
-void print(std::FILE *stream, const QString &text)
-{
-    const QByteArray utf8 = text.toUtf8();
-    std::fwrite(utf8.constData(), 1, std::size_t(utf8.size()), stream);
-}
 
 void printLine(const QString &line)
 {
@@ -43,8 +36,9 @@ int takeOver(const Request &request)
     return zrv::storetool::takeOver(request.file, request.folder, request.asStored, printLine) == 0 ? 0 : 1;
 }
 
-int run(const Request &request)
+int run(const QStringList &words)
 {
+    const Request request = readCommandLine(words);
     switch (request.command) {
     case Command::Help:
         print(stdout, helpText());
@@ -78,15 +72,5 @@ int run(const Request &request)
 
 int main(int argc, char **argv)
 {
-    QStringList words;
-    for (int i = 1; i < argc; ++i)
-        words.append(QFile::decodeName(argv[i]));
-    try {
-        return run(readCommandLine(words));
-    } catch (const Failure &failure) {
-        print(stderr, QString(u"zrvstore: " + failure.reason() + u'\n'));
-    } catch (const std::exception &error) {
-        print(stderr, QString(u"zrvstore: " + QString::fromUtf8(error.what()) + u'\n'));
-    }
-    return 2;
+    return zrv::runTool(u"zrvstore", argc, argv, run);
 }

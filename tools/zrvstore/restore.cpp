@@ -7,8 +7,8 @@
 #include "core/store/soundness.h"
 #include "core/store/store_backups.h"
 #include "core/store/store_lock.h"
+#include "tools/terminal/failure.h"
 #include "tools/zrvstore/database.h"
-#include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/store_folder.h"
 #include "tools/zrvstore/verify.h"
 

@@ -6,7 +6,7 @@
 #include "core/store/new_store.h"
 #include "tools/jet/read_file.h"
 #include "tools/jet/refused.h"
-#include "tools/zrvstore/failure.h"
+#include "tools/terminal/failure.h"
 #include "tools/zrvstore/kept_original.h"
 #include "tools/zrvstore/old_rows.h"
 #include "tools/zrvstore/old_store.h"

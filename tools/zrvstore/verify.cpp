@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tools/zrvstore/verify.h"
 
+#include "tools/terminal/failure.h"
 #include "tools/zrvstore/database.h"
-#include "tools/zrvstore/failure.h"
 #include "tools/zrvstore/verify_months.h"
 
 #include <algorithm>

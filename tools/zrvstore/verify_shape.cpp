@@ -2,7 +2,7 @@
 #include "tools/zrvstore/verify_shape.h"
 
 #include "core/store/schema.h"
-#include "tools/zrvstore/failure.h"
+#include "tools/terminal/failure.h"
 #include "tools/zrvstore/older_shapes.h"
 
 #include <QStringList>

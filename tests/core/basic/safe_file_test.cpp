@@ -173,6 +173,16 @@ TEST_F(SafeFileTest, MissingFolderIsPathNotFound)
     EXPECT_EQ(errorOfWriting(m_folder.filePath(u"none/WH138902.TXT"_s), 3).number(), 76);
 }
 
+TEST_F(SafeFileTest, PipeOfTheFilesNameIsPathFileAccessAndStays)
+{
+    const QString path = m_folder.filePath(u"pipe"_s);
+    ASSERT_EQ(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+    EXPECT_EQ(errorOfWriting(path, 1).number(), error::PathFileAccess);
+    struct stat there {};
+    ASSERT_EQ(::lstat(QFile::encodeName(path).constData(), &there), 0);
+    EXPECT_TRUE(S_ISFIFO(there.st_mode)) << "a device would be replaced in the same way";
+}
+
 TEST_F(SafeFileTest, FolderOfTheFilesNameIsPathFileAccessAndStays)
 {
     const QString path = m_folder.filePath(u"folder"_s);

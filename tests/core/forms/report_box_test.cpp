@@ -24,7 +24,7 @@ public:
             throw RunTimeError(error::DeviceIo, u"the file has changed"_s);
         asked += count;
         QStringList made;
-        for (qint64 line = first; line < std::min(m_count, first + count); ++line)
+        for (qint64 line = first; line < std::min(m_count, first + count) - (endsEarly ? 1 : 0); ++line)
             made += line == wordAt ? word : u"line "_s + QString::number(line);
         return made.join(u"\r\n"_s);
     }
@@ -40,6 +40,7 @@ public:
     qint64 wordAt = -1;
     QString word;
     bool isGone = false;
+    bool endsEarly = false;
     qint64 asked = 0;
 
 private:
@@ -122,6 +123,19 @@ TEST(ReportBox, AsksForALineOfAPageOnce)
     EXPECT_EQ(page.tellsError, (std::vector{false, true, false, true, false}));
     (void)form.report.page(2'000'000'000, 5);
     EXPECT_EQ(form.lines->asked, 5);
+}
+
+TEST(ReportBox, APageHasTheLinesItWasAskedForWhateverTheReportGives)
+{
+    ReportForm form;
+    form.lines->errors = {2};
+    form.lines->wordAt = 0;
+    form.lines->word = u"two\r\nlines"_s;
+    EXPECT_EQ(form.report.page(0, 3).lines, (QStringList{u"two"_s, u"lines"_s, u"line 1"_s}));
+    EXPECT_EQ(form.report.page(0, 3).tellsError, (std::vector{false, false, true}));
+    form.lines->endsEarly = true;
+    EXPECT_EQ(form.report.page(1, 2).lines, (QStringList{u"line 1"_s, QString()}));
+    EXPECT_EQ(form.report.page(1, 2).tellsError, (std::vector{false, true}));
 }
 
 TEST(ReportBox, GoesFromLineToLineAndPageToPageWithinItsEnds)

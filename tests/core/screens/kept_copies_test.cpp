@@ -3,7 +3,9 @@
 #include "core/store/store_backups.h"
 #include "tests/core/screens/quiet_platform.h"
 #include "tests/core/store/store_fixture.h"
+#include "tests/failing_disk.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace zrv {
@@ -55,6 +57,28 @@ TEST_F(KeptCopies, WithoutACopyTheUserSaysWhetherTheStepIsTaken)
     EXPECT_TRUE(platform.texts.first().contains(backupFolder(path())));
     platform.answer = Answer::Yes;
     EXPECT_TRUE(keepCopyBeforeStep(program));
+}
+
+TEST_F(KeptCopies, AFullDiskIsToldWithWhatToLookAt)
+{
+    const QString hint = u"ديسک را بررسي نماييد"_s;
+    const FilesNoLargerThan limit(16'384);
+    EXPECT_FALSE(keepCopyBeforeStep(program));
+    keepCopyAtLeaving(program);
+    ASSERT_EQ(platform.texts.size(), 2);
+    EXPECT_TRUE(platform.texts[0].contains(hint)) << platform.texts[0].toStdString();
+    EXPECT_TRUE(platform.texts[1].contains(hint)) << platform.texts[1].toStdString();
+    EXPECT_EQ(QDir(backupFolder(path())).entryList(QDir::Files | QDir::Hidden), QStringList());
+}
+
+TEST_F(KeptCopies, BesideACopyOfItsOwnAStepIsNotAskedAgain)
+{
+    keepCopyBesideAnother(program);
+    EXPECT_EQ(backupNames(path()).size(), 1);
+    ASSERT_TRUE(QDir(backupFolder(path())).removeRecursively());
+    takeTheFolder();
+    keepCopyBesideAnother(program);
+    EXPECT_EQ(platform.texts, QStringList());
 }
 
 TEST_F(KeptCopies, LeavingTellsOfACopyThatCannotBeMade)

@@ -2,6 +2,7 @@
 #include "core/store/store_backups.h"
 #include "core/store/store_copy.h"
 #include "tests/core/store/store_fixture.h"
+#include "tests/failing_disk.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -91,6 +92,29 @@ TEST_F(StoreBackups, ADamagedStoreIsNotCopiedAndNoOldCopyGoes)
     EXPECT_EQ(backupNames(path()), before);
     EXPECT_EQ(QDir(backupFolder(path())).entryList(QDir::Files | QDir::Hidden),
               QStringList(before.rbegin(), before.rend()));
+}
+
+TEST_F(StoreBackups, AFullDiskLeavesTheOlderCopiesAndNoHalfOne)
+{
+    for (int day = 1; day <= 30; ++day)
+        backUpChanged(u"13890"_s + QString::number(300 + day) + u"-103000"_s);
+    const QStringList before = backupNames(path());
+    const qint64 whole = QFileInfo(path()).size();
+    execute(u"UPDATE User_Defination SET Name='changed'"_s);
+    // Where nothing can be written, in the midst of the copy, and a page before its end.
+    for (const qint64 room : {qint64(0), whole / 2, whole - 4096}) {
+        SCOPED_TRACE(room);
+        const FilesNoLargerThan limit(static_cast<rlim_t>(room));
+        EXPECT_THROW(backUpStore(path(), u"13890401-103000"_s), RunTimeError);
+        EXPECT_EQ(QDir(backupFolder(path())).entryList(QDir::Files | QDir::Hidden),
+                  QStringList(before.rbegin(), before.rend()));
+    }
+    for (const QString &name : before)
+        EXPECT_EQ(nameIn(copyPath(name)), name.sliced(9, 15));
+    // With room again it is made, and the oldest goes.
+    backUpStore(path(), u"13890401-103000"_s);
+    EXPECT_EQ(nameIn(copyPath(u"DBZorvan-13890401-103000.mdb"_s)), u"changed"_s);
+    EXPECT_EQ(backupNames(path()).size(), MostBackups);
 }
 
 TEST_F(StoreBackups, AFileInThePlaceOfTheFolderIsTold)

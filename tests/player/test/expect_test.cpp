@@ -117,6 +117,7 @@ TEST_F(SittingTest, WritersLinesPrintToTheTranscript)
 {
     holds(
         "show txtFirst\nrows dbgRows\ntype txtFirst abc\nsave txtFirst out.txt\nexpect-file out.txt abc\npicture p.png\n"
+        "picture-print p.png\n"
         "expect-missing p.png\n");
     EXPECT_EQ(lines.at(1), u"txtFirst TextBox text=\"\" enabled=\"yes\" visible=\"yes\" locked=\"no\" focused=\"yes\" "
                            "limit=\"10\" colour=\"FFFFFF\" tag=\"+N\" tooltip=\"راهنما\""_s);

@@ -5,7 +5,7 @@
 
 #include <exception>
 
-namespace zrv::storetool {
+namespace zrv {
 
 /// Why a command can't be done, in one line of English for the person at the terminal.
 class Failure : public std::exception {
@@ -24,4 +24,4 @@ private:
     QByteArray m_what;
 };
 
-} // namespace zrv::storetool
+} // namespace zrv
