@@ -5,4 +5,6 @@ if(CPACK_GENERATOR STREQUAL DEB)
 else()
     set(CPACK_COMPONENTS_ALL portable)
     set(CPACK_PACKAGE_FILE_NAME ZRVClient-${CPACK_PACKAGE_VERSION})
+    # Unpacked it is one folder, not thirty files among the user's own.
+    set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
 endif()
