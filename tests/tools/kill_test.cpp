@@ -6,7 +6,6 @@
 #include "tests/jet_writer/old_stores.h"
 #include "tests/tools/killed_process.h"
 #include "tests/tools/tool_fixture.h"
-#include "tools/sample/dice.h"
 #include "tools/sample/numbers.h"
 #include "tools/zrvstore/backup.h"
 #include "tools/zrvstore/takeover.h"
@@ -16,11 +15,7 @@ namespace {
 
 constexpr sample::Plan People = {.payees = 150, .months = 3, .year = 1389, .rng = 11};
 
-class KillTest : public ToolTest {
-protected:
-    /// How long until the kill, in microseconds; spread over several statements, most of them short ones.
-    int moment(int turn) { return sample::Dice(1, "moment", quint64(turn)).below(turn % 4 == 0 ? 30'000 : 8'000); }
-};
+class KillTest : public ToolTest {};
 
 /// The statements of the screens, one after the other. Each leaves a sound store behind it.
 class Statements {
@@ -86,9 +81,12 @@ TEST_F(KillTest, EachStatementTakesEffectWhollyOrNotAtAll)
     const QString store = sampleStore(People);
     Sqlite(store).run(u"UPDATE ZRVtbKarkonan SET Sabege='10'"_s);
     const QString month = Sqlite(store).value(u"SELECT count(*) FROM ZRVtbHogog WHERE TaxMonth='01'"_s);
+    // Most statements are short ones; every fourth kill has the time for several.
+    KillMoments moments(1, 8'000);
     int duringAStatement = 0;
     for (int turn = 0; turn < Kills; ++turn) {
-        ASSERT_TRUE(killDuring([&, work = Statements(store)](int step) { work(turn + step); }, moment(turn)));
+        const int moment = moments.next() * (turn % 4 == 0 ? 4 : 1);
+        ASSERT_TRUE(killDuring([&, work = Statements(store)](int step) { work(turn + step); }, moment));
         duringAStatement += QFile::exists(store + u"-journal"_s);
         ASSERT_EQ(findingsOf(store), QStringList{u"findings: 0"_s}) << "after kill " << turn;
         Sqlite left(store);
@@ -105,17 +103,18 @@ TEST_F(KillTest, EachStatementTakesEffectWhollyOrNotAtAll)
 
 TEST_F(KillTest, AStoreInTheMakingHasNoNameYet)
 {
+    KillMoments moments(2, 60'000);
     int made = 0;
     int unmade = 0;
     for (int turn = 0; turn < 40; ++turn) {
         const QString folder = in(QString::number(turn));
-        const int kill = sample::Dice(2, "moment", quint64(turn)).below(60'000);
         ASSERT_TRUE(killDuring(
             [&](int step) {
                 const QString each = folder + u'/' + QString::number(step);
                 turn % 2 == 0 ? create(each, {}) : createSample(each, People);
             },
-            kill));
+            moments.next()));
+        const int madeBefore = made;
         for (const QFileInfo &each : QDir(folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
             const QString store = storeIn(each.filePath());
             const bool exists = QFile::exists(store);
@@ -124,6 +123,7 @@ TEST_F(KillTest, AStoreInTheMakingHasNoNameYet)
                 ASSERT_EQ(findingsOf(store), QStringList{u"findings: 0"_s}) << store.toStdString();
             }
         }
+        made == madeBefore ? moments.cameBeforeTheEnd() : moments.cameAfterTheEnd();
         QDir(folder).removeRecursively();
     }
     EXPECT_GT(made, 5);
@@ -134,12 +134,12 @@ TEST_F(KillTest, ACopyInTheMakingHasNoNameYetAndLeavesTheOldOneWhole)
 {
     const QString store = sampleStore(People);
     const QString copy = in(u"copy.mdb"_s);
+    KillMoments moments(3, 40'000);
     int unfinished = 0;
     for (int turn = 0; turn < 40; ++turn) {
         if (turn % 4 == 0)
             QFile::remove(copy);
-        const int kill = sample::Dice(3, "moment", quint64(turn)).below(40'000);
-        ASSERT_TRUE(killDuring([&](int) { backup(store, copy, true); }, kill));
+        ASSERT_TRUE(killDuring([&](int) { backup(store, copy, true); }, moments.next()));
         const QStringList rubbish = QDir(in(u""_s)).entryList({u"copy.mdb.new*"_s}, QDir::Files);
         EXPECT_LE(rubbish.size(), 1) << "each run clears away what the one before it left";
         unfinished += !rubbish.isEmpty();
@@ -160,6 +160,7 @@ TEST_F(KillTest, AnOldStoreIsReplacedWhollyOrNotAtAllAndNeverLost)
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     };
+    KillMoments moments(4, 120'000);
     int replaced = 0;
     int left = 0;
     for (int turn = 0; turn < 40; ++turn) {
@@ -173,13 +174,15 @@ TEST_F(KillTest, AnOldStoreIsReplacedWhollyOrNotAtAllAndNeverLost)
             [&](int step) {
                 step == 0 ? void(takeOver(store, folder, false, [](const QString &) {})) : void(::pause());
             },
-            sample::Dice(4, "moment", quint64(turn)).below(120'000)));
+            moments.next()));
         const bool isReplaced = bytesOf(store) != old;
         ++(isReplaced ? replaced : left);
         if (isReplaced) {
+            moments.cameAfterTheEnd();
             EXPECT_EQ(bytesOf(folder + u"/JetDBZorvan.mdb"_s), old) << "after kill " << turn;
             EXPECT_EQ(Sqlite(store).value(u"SELECT count(*) FROM ZRVtbKarkonan"_s), u"300"_s);
         } else {
+            moments.cameBeforeTheEnd();
             (void)takeOver(store, folder, false, [](const QString &) {});
             EXPECT_EQ(Sqlite(store).value(u"SELECT count(*) FROM ZRVtbKarkonan"_s), u"300"_s);
         }

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "tools/sample/dice.h"
+
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
 #include <exception>
@@ -42,5 +45,29 @@ inline bool killDuring(const Work &work, int microseconds)
     ::close(pipe[1]);
     return WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL;
 }
+
+/// The moments of the kills, in microseconds from the beginning of the work: spread evenly up to a limit. Where the
+/// work has an end, the limit grows with each kill that came before it and shrinks with each that came after it, so
+/// that both happen however fast the machine is and whatever else it does.
+class KillMoments {
+public:
+    /// `number` tells these moments from those of other tests.
+    KillMoments(quint64 number, int limit)
+        : m_dice(number, "moment", 0)
+        , m_limit(limit)
+    {
+    }
+
+    [[nodiscard]] int next() { return m_dice.below(m_limit); }
+    void cameBeforeTheEnd() { m_limit = std::min(m_limit + m_limit / 4, Longest); }
+    void cameAfterTheEnd() { m_limit = std::max(m_limit - m_limit / 4, Shortest); }
+
+private:
+    static constexpr int Shortest = 1'000;
+    static constexpr int Longest = 10'000'000;
+
+    sample::Dice m_dice;
+    int m_limit;
+};
 
 } // namespace zrv
