@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 
 #include <set>
+#include <unistd.h>
 
 namespace zrv::checktool {
 namespace {
@@ -59,6 +60,46 @@ TEST_F(ZrvCheck, AFolderStandsForTheElectronicFilesBelowIt)
     EXPECT_EQ(run.out.count(u'\n'), 4);
     writeIn(u"none"_s, m_good, u"other.TXT"_s);
     EXPECT_EQ(zrvcheck({u"none"_s}).status, 2);
+}
+
+TEST_F(ZrvCheck, AFolderThatCanNotBeReadStandsForItself)
+{
+    writeIn(u"b/open"_s, m_good, u"WH138901.TXT"_s);
+    writeIn(u"b/listless"_s, m_good, u"WH138902.TXT"_s);
+    writeIn(u"b/closed"_s, m_good, u"WH138903.TXT"_s);
+    const auto permit = [this](const QString &folder, QFile::Permissions permissions) {
+        EXPECT_TRUE(QFile::setPermissions(m_folder.filePath(folder), permissions));
+    };
+    constexpr QFile::Permissions Open =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    permit(u"."_s, Open);
+    permit(u"b/listless"_s, QFile::ReadOwner | QFile::ReadOther);
+    permit(u"b/closed"_s, {});
+    const auto in = [this](const QString &name) { return m_folder.filePath(name); };
+    const QStringList expected{in(u"b/closed"_s), in(u"b/listless"_s), in(u"b/open/WH138901.TXT"_s)};
+    // The tests may run as the user who may read everything.
+    const auto filesAsNobody = [&] {
+        if (::geteuid() == 0 && ::setuid(65534) != 0)
+            ::_exit(2);
+        ::_exit(filesOf({in(u"b"_s)}) == expected && filesOf({in(u"b/closed"_s)}) == expected.first(1) ? 0 : 1);
+    };
+    EXPECT_EXIT(filesAsNobody(), testing::ExitedWithCode(0), "");
+    for (const QString &folder : {u"b/listless"_s, u"b/closed"_s})
+        permit(folder, Open);
+}
+
+TEST_F(ZrvCheck, AFolderThatStandsForItselfCouldNotBeRead)
+{
+    writeIn(u"b"_s, m_good, u"WH138902.TXT"_s);
+    const QStringList files{m_folder.filePath(u"b"_s), m_folder.filePath(u"b/WH138902.TXT"_s)};
+    QByteArray told;
+    OrderedOutput list([&](QByteArrayView text) { told.append(text); });
+    const std::vector<FileResult> results =
+        checkFiles({.files = files, .request = {}, .clock = [] { return QString(); }}, list, nullptr);
+    list.finish();
+    EXPECT_EQ(QString::fromUtf8(told), files[0] + u": the folder can't be read\n"_s);
+    EXPECT_EQ(exitStatus(results), 2);
+    EXPECT_EQ(results[1].records, 2);
 }
 
 TEST_F(ZrvCheck, WhatCanNotBeReadIsSaidAndTheOthersAreChecked)

@@ -8,6 +8,8 @@
 #include "tools/zrvcheck/finding_lines.h"
 #include "tools/zrvcheck/utf8_report.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <atomic>
 #include <exception>
@@ -98,6 +100,11 @@ FileResult checkFile(const QString &path, const CheckJob &job, FileOutput &list,
                                .programVersion = CurrentProgramVersion.toString(),
                                .threads = std::max(1U, job.threads / unsigned(job.files.size()))};
     FileResult result{.path = path};
+    if (QFileInfo(path).isDir()) {
+        result.isStopped = result.isUnreadable = true;
+        list.addText(path + u": the folder can't be read\n"_s);
+        return result;
+    }
     ErrorLines lines(rules, options, result, request.summary || writesReport ? nullptr : &list);
     const CheckOutcome outcome = StructureCheck(rules, path, options).run(lines);
     result.records = outcome.records;

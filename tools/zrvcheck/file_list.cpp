@@ -21,26 +21,38 @@ bool isNamedAsElectronicFile(const QString &name)
            && std::ranges::all_of(number, isAsciiDigit);
 }
 
+/// To list a folder is one permission, to reach what is in it another.
+bool canBeRead(const QFileInfo &folder)
+{
+    return folder.isReadable() && QFileInfo::exists(folder.filePath() + u"/.");
+}
+
+QStringList filesIn(const QString &folder)
+{
+    QStringList found;
+    if (!canBeRead(QFileInfo(folder)))
+        return {folder};
+    QDirIterator entries(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
+                         QDirIterator::Subdirectories);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        const QFileInfo entry = entries.fileInfo();
+        const bool isToTell =
+            entry.isDir() ? !entry.isSymLink() && !canBeRead(entry) : isNamedAsElectronicFile(entries.fileName());
+        if (isToTell)
+            found.append(path);
+    }
+    found.sort();
+    return found;
+}
+
 } // namespace
 
 QStringList filesOf(const QStringList &paths)
 {
     QStringList files;
-    for (const QString &path : paths) {
-        if (!QFileInfo(path).isDir()) {
-            files.append(path);
-            continue;
-        }
-        QStringList found;
-        QDirIterator entries(path, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-        while (entries.hasNext()) {
-            const QString file = entries.next();
-            if (isNamedAsElectronicFile(entries.fileName()))
-                found.append(file);
-        }
-        found.sort();
-        files.append(found);
-    }
+    for (const QString &path : paths)
+        files += QFileInfo(path).isDir() ? filesIn(path) : QStringList{path};
     return files;
 }
 

@@ -6,7 +6,8 @@
 namespace zrv::checktool {
 
 /// The files behind the paths, in their order: a folder stands for all regular files in and below it that are named WH
-/// or WK, year, month and .TXT in either case, sorted; any other path for itself. Links to folders are not followed.
+/// or WK, year, month and .TXT in either case, sorted; any other path for itself, and so does a folder that can't be
+/// read. Links to folders are not followed.
 [[nodiscard]] QStringList filesOf(const QStringList &paths);
 
 } // namespace zrv::checktool
