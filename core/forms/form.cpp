@@ -58,14 +58,14 @@ void Form::giveFocus(Control *control)
         control->onGotFocus();
 }
 
-void Form::moveFocus(int step)
+void Form::moveFocus(int step, Stops stops)
 {
     const int count = static_cast<int>(m_controls.size());
     const int start = m_active ? m_active->tabIndex() : (step > 0 ? -1 : count);
     for (int distance = 1; distance <= count; ++distance) {
         const int place = ((start + step * distance) % count + count) % count;
         Control *const next = m_controls[static_cast<size_t>(place)];
-        if (next->isTabStop() && next->isReachable()) {
+        if (next->takesFocus() && next->isTabStop() == (stops == Stops::OfTab) && next->isReachable()) {
             giveFocus(next);
             return;
         }

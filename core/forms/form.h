@@ -50,8 +50,9 @@ public:
     [[nodiscard]] Control *find(QStringView name) const;
 
     [[nodiscard]] Control *activeControl() const { return m_active; }
+    enum class Stops { OfTab, PassedByTab };
     /// Moves the focus on (1) or back (-1) in the tab order, round the end.
-    void moveFocus(int step);
+    void moveFocus(int step, Stops stops = Stops::OfTab);
 
     [[nodiscard]] Button *defaultButton() const { return m_default; }
     [[nodiscard]] Button *cancelButton() const { return m_cancel; }

@@ -141,6 +141,9 @@ bool Form::namedKey(Key key)
     case Key::Backtab:
         moveFocus(-1);
         return true;
+    case Key::F6:
+        moveFocus(1, Stops::PassedByTab);
+        return true;
     case Key::Enter:
         if (m_active && m_active->kind() == ControlKind::Button) {
             if (m_active->onClick)

@@ -308,6 +308,7 @@ const std::vector<Line> Lines{
     {u"در همه فرم‌ها", u"Enter",           [] { return screen("frmUpgrades", u"optUpgrades(0)"); }, {{Qt::Key_Return, u"focus"_s}}},
     {u"در همه فرم‌ها", u"Escape",          [] { return stage("CodeNew", u"txtSDesc"); },           {{Qt::Key_Escape, u"txtSCode.enabled"_s}}},
     {u"در همه فرم‌ها", u"Tab و Shift+Tab", [] { return card(u"next"); },                           {{Qt::Key_Tab, u"focus"_s}, {Shift | Qt::Key_Backtab, u"focus"_s}}},
+    {u"در همه فرم‌ها", u"F6",              [] { return stage("SummaryFound", u"txtKharejiNo"); },       {{Qt::Key_F6, u"focus"_s}}},
     {u"در همه فرم‌ها", u"Alt با يک حرف",   [] { return card(u"field"); },                          {{letter(u'د', Alt), u"clicks"_s}, {Alt | Qt::Key_R, u"clicks"_s}}},
     {u"در همه فرم‌ها", u"Space",           [] { return card(u"plain"); },                          {{Qt::Key_Space, u"clicks"_s}}},
     {u"در همه فرم‌ها", u"Space",           [] { return card(u"check"); },                          {{Qt::Key_Space, u"check.checked"_s}}},

@@ -53,6 +53,29 @@ TEST(Focus, TabPassesWhatIsDisabledOrHidden)
     EXPECT_EQ(form.activeControl(), &form.back);
 }
 
+TEST(Focus, F6WalksThroughWhatTabPassesBy)
+{
+    OpenForm form;
+    form.second.setTabStop(false);
+    form.back.setTabStop(false);
+    QStringList walk;
+    for (int i = 0; i < 3; ++i) {
+        form.userKey(Key::F6);
+        walk << form.activeControl()->name();
+    }
+    EXPECT_EQ(walk, (QStringList{u"txtSecond"_s, u"cmdBack"_s, u"txtSecond"_s}));
+    form.userKey(Key::Tab);
+    EXPECT_EQ(form.activeControl(), &form.ok);
+}
+
+TEST(Focus, F6GoesNowhereWhereTabPassesNothingBy)
+{
+    OpenForm form;
+    form.userFocus(form.second);
+    form.userKey(Key::F6);
+    EXPECT_EQ(form.activeControl(), &form.second);
+}
+
 TEST(Focus, DisabledFrameMakesWhatLiesInItUnreachable)
 {
     OpenForm form;
