@@ -7,6 +7,8 @@
 
 #include <QApplication>
 
+#include <optional>
+
 int main(int argc, char *argv[])
 {
     using namespace zrv;
@@ -18,11 +20,13 @@ int main(int argc, char *argv[])
         return 1;
     const QString store = platform.programFolder() + u"/DBZorvan.mdb";
     StoreLock lock(store);
-    if (!mayRun(platform, store, lock))
-        return 0;
-    const FirstWindow first(store, raiseWindows);
+    std::optional<FirstWindow> first;
+    if (mayRun(platform, store, lock))
+        first.emplace(store, raiseWindows);
+    // Whoever made the store tells how to get in, even if another one, started at the same moment, was quicker to open it.
     if (isFirst)
         tellOfFirstStore(platform);
-    runProgram(platform);
+    if (first)
+        runProgram(platform);
     return 0;
 }

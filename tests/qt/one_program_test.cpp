@@ -252,6 +252,27 @@ TEST_F(OneProgram, ASecondStartEndsAndTheFirstGoesOn)
     ASSERT_TRUE(first.waitForFinished());
 }
 
+TEST_F(OneProgram, WhoMadeTheStoreTellsHowToGetInEvenIfAnotherWasQuickerToOpenIt)
+{
+    putProgramThere();
+    ASSERT_TRUE(QFile::remove(store()));
+    ASSERT_TRUE(
+        QFile::copy(QFileInfo(QStringLiteral(ZRVCLIENT)).path() + u"/zrvstore"_s, m_folder.filePath(u"zrvstore"_s)));
+    QFile sign(m_folder.filePath(PortableSign));
+    ASSERT_TRUE(sign.open(QIODevice::WriteOnly));
+    sign.close();
+    const StoreLock quicker(store());
+    int raised = 0;
+    const FirstWindow itsWindow(store(), [&] { ++raised; });
+    QProcess maker;
+    start(maker);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return raised == 1; }, 30'000));
+    EXPECT_TRUE(QFile::exists(store()));
+    EXPECT_FALSE(QTest::qWaitFor([&] { return maker.state() == QProcess::NotRunning; }, 1'000)) << "its box waits";
+    maker.kill();
+    maker.waitForFinished();
+}
+
 TEST_F(OneProgram, AKillWhileTheLockIsHeldKeepsNobodyOut)
 {
     putProgramThere();
