@@ -9,7 +9,13 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QSignalBlocker>
+#include <QStyle>
+
+#include <algorithm>
+#include <functional>
+#include <vector>
 
 namespace zrv {
 
@@ -53,6 +59,25 @@ bool ComboBinder::keepsKey(const QKeyEvent &event) const
     return FieldEdit::keepsKey(event) || Binder::keepsKey(event);
 }
 
+/// Room for the widest row, of thousands perhaps: it is among the longest ones.
+void ComboBinder::widenList()
+{
+    constexpr std::size_t Measured = 64;
+    std::vector<QStringView> rows;
+    for (const ListItem &item : m_combo.items())
+        rows.push_back(item.shown);
+    const std::size_t count = std::min(Measured, rows.size());
+    std::ranges::partial_sort(rows, rows.begin() + std::ptrdiff_t(count), std::ranges::greater(), &QStringView::size);
+    QAbstractItemView &view = *m_widget->view();
+    int width = 0;
+    for (std::size_t i = 0; i < count; ++i)
+        width = std::max(width, view.fontMetrics().horizontalAdvance(rows[i].toString()));
+    const QStyle &style = *m_widget->style();
+    const int beside = 2 * (style.pixelMetric(QStyle::PM_FocusFrameHMargin) + 1 + view.frameWidth())
+                       + style.pixelMetric(QStyle::PM_ScrollBarExtent);
+    view.setMinimumWidth(std::min(width + beside, m_window.screen()->availableGeometry().width()));
+}
+
 void ComboBinder::openList()
 {
     if (m_combo.isLocked() || !m_window.pressed(m_combo))
@@ -61,6 +86,7 @@ void ComboBinder::openList()
     // The list opens at the row that is shown.
     m_field->quietly([this] { m_widget->setCurrentIndex(m_combo.listIndex()); });
     m_field->showText();
+    widenList();
     m_widget->showPopup();
 }
 

@@ -20,6 +20,7 @@ public:
     bool special(QEvent &event) override;
 
 private:
+    void widenList();
     void openList();
 
     Combo &m_combo;

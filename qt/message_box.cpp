@@ -5,6 +5,7 @@
 
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 
 namespace zrv {
 
@@ -28,10 +29,13 @@ QMessageBox::Icon iconOf(int style)
     }
 }
 
-/// Line ends come as CR, LF or both.
+/// Line ends come as CR, LF or both. The slash that begins a path would stand at the path's other end, being of no
+/// direction of its own: a mark that nobody sees gives it the path's.
 QString shownText(QString text)
 {
-    return text.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
+    static const QRegularExpression pathBegin(u"(?<![^\\s:])(?=/[A-Za-z0-9._~-])"_s);
+    text.replace("\r\n"_L1, "\n"_L1).replace(u'\r', u'\n');
+    return text.replace(pathBegin, u"\u200E"_s);
 }
 
 } // namespace

@@ -72,6 +72,19 @@ TEST_F(Lists, TypingInAComboCompletesFromItsRowsWithTheRestMarked)
     EXPECT_EQ(form.combo.boundText(), u""_s);
 }
 
+TEST_F(Lists, AnOpenListIsAsWideAsItsWidestRow)
+{
+    const QString widest = u"کارکنان مشمول معافيت مناطق محروم و کمتر توسعه يافته"_s;
+    form.combo.setItems({{u"فروردين"_s, u"01"_s}, {widest, u"02"_s}});
+    auto &box = static_cast<QComboBox &>(*shown.window.widgetFor(form.combo));
+    const QAbstractItemView &list = *box.view();
+    ASSERT_LT(box.width(), list.fontMetrics().horizontalAdvance(widest));
+    pressKey(shown.line(form.combo), Qt::Key_F4);
+    ASSERT_TRUE(list.isVisible());
+    EXPECT_GE(list.viewport()->width(), list.sizeHintForColumn(0));
+    box.hidePopup();
+}
+
 TEST_F(Lists, F4AndAltDownOpenTheListAndAPickIsTheRowsChoice)
 {
     auto &box = static_cast<QComboBox &>(*shown.window.widgetFor(form.combo));

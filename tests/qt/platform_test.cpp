@@ -56,6 +56,14 @@ TEST(MessageBox, EveryKindOfLineEndBreaksTheLineOnce)
     });
 }
 
+TEST(MessageBox, ThePathInItBeginsWithItsSlash)
+{
+    shownBox(box::Plain, {}, u"پوشه : /srv/pay\n/srv/ليست 2/3\nو/يا"_s, [](QMessageBox &box) {
+        EXPECT_EQ(box.text(), u"پوشه : \u200E/srv/pay\n\u200E/srv/ليست 2/3\nو/يا"_s);
+        clickFirst(box);
+    });
+}
+
 TEST(MessageBox, ItsTextCanBeMarkedByMouseAndKeyboardAndIsNoMarkup)
 {
     shownBox(box::Information, {}, u"<b>138902</b>"_s, [](QMessageBox &box) {
