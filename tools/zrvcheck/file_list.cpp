@@ -21,16 +21,10 @@ bool isNamedAsElectronicFile(const QString &name)
            && std::ranges::all_of(number, isAsciiDigit);
 }
 
-/// To list a folder is one permission, to reach what is in it another.
-bool canBeRead(const QFileInfo &folder)
-{
-    return folder.isReadable() && QFileInfo::exists(folder.filePath() + u"/.");
-}
-
 QStringList filesIn(const QString &folder)
 {
     QStringList found;
-    if (!canBeRead(QFileInfo(folder)))
+    if (!QFileInfo(folder).isReadable())
         return {folder};
     QDirIterator entries(folder, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
                          QDirIterator::Subdirectories);
@@ -38,7 +32,7 @@ QStringList filesIn(const QString &folder)
         const QString path = entries.next();
         const QFileInfo entry = entries.fileInfo();
         const bool isToTell =
-            entry.isDir() ? !entry.isSymLink() && !canBeRead(entry) : isNamedAsElectronicFile(entries.fileName());
+            entry.isDir() ? !entry.isSymLink() && !entry.isReadable() : isNamedAsElectronicFile(entries.fileName());
         if (isToTell)
             found.append(path);
     }
