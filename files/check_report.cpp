@@ -2,7 +2,7 @@
 #include "files/check_report.h"
 
 #include "core/basic/run_time_error.h"
-#include "files/gauge_thread.h"
+#include "files/report_measure.h"
 
 #include <algorithm>
 #include <iterator>
@@ -29,15 +29,18 @@ struct Enough {};
 
 } // namespace
 
-/// Hears of the file itself; its lines are measured apart from their check.
+/// Hears of the file itself and of the lines that are passed over; the others are measured where they are looked at.
 class CheckReport::FileEvents : public CheckEvents {
 public:
-    explicit FileEvents(ReportWriter &writer)
+    FileEvents(ReportWriter &writer, ReportGauge &gauge)
         : m_writer(writer)
+        , m_gauge(gauge)
     {
     }
 
     [[nodiscard]] bool wantsErrorsAlone() const override { return true; }
+    [[nodiscard]] bool wantsPassedLines() const override { return true; }
+    void passedOver(std::span<const PassedLine> lines) override { m_gauge.pass(lines); }
     void finding(const Finding &finding) override
     {
         switch (finding.kind) {
@@ -57,6 +60,7 @@ public:
 
 private:
     ReportWriter &m_writer;
+    ReportGauge &m_gauge;
 };
 
 /// Keeps some lines of the report, and which of them tell an error.
@@ -259,54 +263,35 @@ void CheckReport::runTelling(ReportWriter &writer, ReportMeasure &measure, const
         measure = before;
 }
 
-/// Most lines of a salary list have nothing wrong in them: these are measured without being told of, beside the check.
+/// Most lines of a salary list have nothing wrong in them: these are measured without being told of.
 void CheckReport::runPassingOver(ReportWriter &writer, ReportMeasure &measure, const BeforeLine &beforeLine)
 {
-    FileEvents events(writer);
-    ReportMeasure ofLines;
-    ReportGauge gauge(m_check.rules(), m_check.options(), m_path, ofLines,
-                      [&](const CheckPlace &place) { addMark(place, ofLines); });
-    ReportMeasure head;
-    CheckPlace line;
-    bool isLooking = false; // at that line; the gauge looks at it when the check has come to its end
-    const auto goesOn = [&] { return !beforeLine || beforeLine(line); };
-    std::optional<GaugeThread> thread;
+    ReportGauge gauge(m_check.rules(), m_check.options(), m_path, measure,
+                      [&](const CheckPlace &place) { addMark(place, measure); });
+    FileEvents events(writer, gauge);
+    ReportMeasure before; // the line that was measured last
+    qint64 measured = -1;
     m_outcome = m_check.run(events, [&](const CheckPlace &place) {
-        if (!thread) {
-            head = measure;
-            ofLines = ReportMeasure(measure.lines(), measure.length());
-            thread.emplace(gauge, goesOn);
-        }
-        if (isLooking && place.offset != line.offset)
-            thread->look(line);
-        line = place;
-        return isLooking = goesOn();
+        const auto goesOn = [&] { return !beforeLine || beforeLine(place); };
+        if (!goesOn())
+            return false;
+        if (measured == place.state.records)
+            return true;
+        const ReportMeasure soFar = measure;
+        if (!gauge.measureLine(place, goesOn))
+            return false;
+        before = soFar;
+        measured = place.state.records;
+        return true;
     });
-    if (!thread)
-        return;
-    try {
-        if (isLooking)
-            thread->look(line);
-        if (!thread->finish()) {
-            m_outcome.end = CheckEnd::Cancelled;
-            m_outcome.records = gauge.place().state.records;
-            m_outcome.errors = gauge.place().state.errors;
-            measure = head;
-        }
-        gauge.passTo({.offset = 0, .state = {.records = m_outcome.records, .errors = m_outcome.errors}});
-    } catch (const RunTimeError &failure) {
-        // The file has gone while the check read on.
-        m_outcome.end = CheckEnd::Failed;
-        m_outcome.failure = failure.number();
-        m_outcome.description = failure.description();
-        m_outcome.showsReport = false;
-    }
-    measure.addMeasured(ofLines);
+    // A line in which the run was given up isn't told of.
+    if (m_outcome.end == CheckEnd::Cancelled && measured == m_outcome.records)
+        measure = before;
 }
 
 void CheckReport::addMark(const CheckPlace &place, const ReportMeasure &measure)
 {
-    if (place.state.records % m_stride != 0)
+    if (place.state.records < m_nextMark)
         return;
     if (m_marks.size() == MostMarks) {
         // Every other mark goes; the one to come, the 65,537th, stays in the new measure.
@@ -316,6 +301,7 @@ void CheckReport::addMark(const CheckPlace &place, const ReportMeasure &measure)
         m_marks.resize(MostMarks / 2);
     }
     m_marks.push_back({place, measure.lines(), measure.length()});
+    m_nextMark = place.state.records + m_stride;
 }
 
 /// Makes the report from a mark on, from its very beginning with the first one, up to where the run ended.

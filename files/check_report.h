@@ -94,6 +94,7 @@ private:
     CheckOutcome m_outcome;
     std::vector<Mark> m_marks;
     qint64 m_stride = 1; ///< a mark for each so many lines of the file
+    qint64 m_nextMark = 0;
     End m_end;
     Window m_window;
     std::optional<Sought> m_sought; ///< the error search before this one

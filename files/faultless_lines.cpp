@@ -47,6 +47,19 @@ bool isFor(When when, bool national, bool otherInsurance)
     }
 }
 
+/// A bit for each of the sixteen fields from there on that is empty; in numbers of one width, for the compiler's sake.
+FieldSet emptyOf16(const std::uint16_t *places)
+{
+    constexpr std::array<std::uint16_t, 16> Bits = {0x1,   0x2,   0x4,   0x8,   0x10,   0x20,   0x40,   0x80,
+                                                    0x100, 0x200, 0x400, 0x800, 0x1000, 0x2000, 0x4000, 0x8000};
+    std::uint16_t empty = 0;
+    for (std::size_t field = 0; field < Bits.size(); ++field) {
+        const auto step = static_cast<std::uint16_t>(places[field + 1] - places[field]);
+        empty = static_cast<std::uint16_t>(empty | (step == 1 ? Bits[field] : 0));
+    }
+    return empty;
+}
+
 } // namespace
 
 FaultlessLines::FaultlessLines(const LineRules &payees, Instructions instructions, LineReader &reader)
@@ -242,7 +255,19 @@ bool FaultlessLines::isFaultless(CheckState &state) const
     ++state.records;
     state.national = isNational();
     state.otherInsurance = hasOtherInsurance();
+    if (m_told)
+        m_told->push_back({.empty = emptyFields(),
+                           .units = m_ends.places[m_line.firstEnd + Fields] - std::uint32_t(m_line.begin),
+                           .national = state.national,
+                           .otherInsurance = state.otherInsurance});
     return true;
+}
+
+FieldSet FaultlessLines::emptyFields() const
+{
+    const std::uint16_t *const places = &m_ends.places[m_line.firstEnd];
+    return (emptyOf16(places) | emptyOf16(places + 16) << 16U | emptyOf16(places + 32) << 32U)
+           & ((FieldSet(1) << Fields) - 1);
 }
 
 FieldSet FaultlessLines::soundFields() const

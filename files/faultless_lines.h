@@ -10,7 +10,7 @@
 #include "files/line_reader.h"
 
 #include <array>
-#include <optional>
+#include <vector>
 
 namespace zrv {
 
@@ -23,6 +23,9 @@ public:
     /// The next line that must be looked at, as LineReader::next() gives it. The state counts the faultless ones before
     /// it as passed and has the flags that the last of them sets.
     bool next(QStringView &line, CheckState &state);
+
+    /// From now on each faultless line is added there; who asked for it takes them out.
+    void tellPassed(std::vector<PassedLine> &lines) { m_told = &lines; }
 
     /// What is known of the line given last, until the next call.
     [[nodiscard]] const KnownLine &known() const { return m_known; }
@@ -58,6 +61,7 @@ private:
     [[nodiscard]] const Limits &limits() const;
     [[nodiscard]] FieldSet fieldsOfRightLetters(const Limits &limits) const;
     [[nodiscard]] bool isFaultless(CheckState &state) const;
+    [[nodiscard]] FieldSet emptyFields() const;
     [[nodiscard]] FieldSet soundFields() const;
 
     LineReader &m_reader;
@@ -71,6 +75,7 @@ private:
     Line m_line;
     std::size_t m_passed = 0; ///< where the reader stands in the stretch
     KnownLine m_known;
+    std::vector<PassedLine> *m_told = nullptr;
 };
 
 } // namespace zrv

@@ -3,7 +3,7 @@
 
 // Where the fields of an electronic file end, and which hold digits alone or none, found for some thousand UTF-16 units
 // at once with the widest instructions that the processor has. The only place that knows of instructions; the check asks
-// (files/faultless_lines.cpp), and the measure of its report (files/report_measure.cpp).
+// (files/faultless_lines.cpp).
 
 #include <array>
 #include <cstddef>

@@ -10,6 +10,8 @@
 
 #include <QDir>
 
+#include <thread>
+
 namespace zrv {
 
 namespace {
@@ -115,7 +117,8 @@ CheckOptions frmReadTextFiles::checkOptions(FileKind kind) const
     const bool isWh = kind == FileKind::Wh;
     return {.onlyErrors = (isWh ? chkDisplayOnlyHogogErrors : chkDisplayOnlyKholErrors).isChecked(),
             .firstTwoLines = isWh && chkTowFirstLineAreChecked.isChecked(),
-            .programVersion = m_program.ProgramVersion};
+            .programVersion = m_program.ProgramVersion,
+            .threads = std::thread::hardware_concurrency()};
 }
 
 void frmReadTextFiles::checkStructure(FileKind kind)

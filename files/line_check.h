@@ -37,6 +37,17 @@ struct Finding {
     QStringView version = {};        ///< the version that line 1 names, of OtherVersion
 };
 
+/// Fields of a line, bit 0 the first one.
+using FieldSet = std::uint64_t;
+
+/// A payee line that is passed over: it has all its fields, and nothing is wrong in them.
+struct PassedLine {
+    FieldSet empty = 0;
+    std::uint32_t units = 0; ///< without its CR LF
+    bool national = false;
+    bool otherInsurance = false;
+};
+
 /// Hears what the check meets, in the order of the report. Who wants the errors alone leaves the rest as it is.
 class CheckEvents {
 public:
@@ -45,6 +56,9 @@ public:
     virtual void finding(const Finding &finding) = 0;
     /// True leaves the check free to pass over faultless lines without a word.
     [[nodiscard]] virtual bool wantsErrorsAlone() const { return false; }
+    /// Who asks for it is told which lines these are, many at once, before the line that comes behind them.
+    [[nodiscard]] virtual bool wantsPassedLines() const { return false; }
+    virtual void passedOver(std::span<const PassedLine> /*lines*/) {}
 
     virtual void started() {}
     virtual void nameAccepted() {}
@@ -68,9 +82,6 @@ struct CheckState {
     bool national = false;
     bool otherInsurance = false;
 };
-
-/// Fields of a line, bit 0 the first one.
-using FieldSet = std::uint64_t;
 
 /// What is known of a line before it is looked at.
 struct KnownLine {

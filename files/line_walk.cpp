@@ -28,8 +28,17 @@ WalkResult LineWalk::walk(CheckState &state, const BeforeLine &beforeLine)
         lines.askInLongLines([&] { return beforeLine({m_reader.offset(), before}); });
     FaultlessLines suspects(m_rules.rest, m_options.instructions, m_reader);
     const bool passesOver = isWh && m_events.wantsErrorsAlone() && !m_options.firstTwoLines;
+    std::vector<PassedLine> passed;
+    if (m_events.wantsPassedLines())
+        suspects.tellPassed(passed);
+    const auto tellPassed = [&] {
+        if (!passed.empty())
+            m_events.passedOver(passed);
+        passed.clear();
+    };
     QStringView line;
     while (passesOver && state.records > 0 ? suspects.next(line, state) : m_reader.next(line)) {
+        tellPassed();
         if (line.isEmpty()) {
             if (isWh && state.records < FewestRecords)
                 m_events.finding({.kind = FindingKind::TooFewRecords,
@@ -51,6 +60,7 @@ WalkResult LineWalk::walk(CheckState &state, const BeforeLine &beforeLine)
         if (field > 0)
             return {.end = WalkEnd::Mismatch, .field = field};
     }
+    tellPassed();
     return {.end = m_reader.isAtEnd() ? WalkEnd::Finished : WalkEnd::Stopped};
 }
 

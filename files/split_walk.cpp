@@ -40,20 +40,41 @@ struct SplitWalk::Share {
     WalkResult result;
     std::vector<Finding> findings;
     std::u16string letters; ///< of the findings' values; never grows beyond its first capacity
+    std::vector<PassedLine> passed;
+    /// A line that was looked at, and how much was found and passed over before it.
+    struct Looked {
+        CheckPlace place;
+        std::size_t findings;
+        std::size_t passed;
+    };
+    std::vector<Looked> looked; ///< where somebody wants to hear of them
 };
 
 /// Keeps the findings of a share.
 class SplitWalk::Recorder : public CheckEvents {
 public:
-    explicit Recorder(Share &share)
+    Recorder(Share &share, bool wantsPassedLines)
         : m_share(share)
+        , m_wantsPassedLines(wantsPassedLines)
     {
         m_share.findings.clear();
         m_share.letters.clear();
         m_share.letters.reserve(MostLetters);
+        m_share.passed.clear();
+        m_share.looked.clear();
     }
 
     [[nodiscard]] bool wantsErrorsAlone() const override { return true; }
+    [[nodiscard]] bool wantsPassedLines() const override { return m_wantsPassedLines; }
+    void passedOver(std::span<const PassedLine> lines) override
+    {
+        m_share.passed.insert(m_share.passed.end(), lines.begin(), lines.end());
+    }
+    void lookAt(const CheckPlace &place)
+    {
+        if (m_share.looked.empty() || m_share.looked.back().place.offset != place.offset)
+            m_share.looked.push_back({place, m_share.findings.size(), m_share.passed.size()});
+    }
     void finding(const Finding &finding) override
     {
         const auto size = static_cast<std::size_t>(finding.value.size());
@@ -67,13 +88,16 @@ public:
 
 private:
     Share &m_share;
+    const bool m_wantsPassedLines;
 };
 
-SplitWalk::SplitWalk(const FileRules &rules, const CheckOptions &options, LineReader &reader, CheckEvents &events)
+SplitWalk::SplitWalk(const FileRules &rules, const CheckOptions &options, LineReader &reader, CheckEvents &events,
+                     const BeforeLine &beforeLine)
     : m_rules(rules)
     , m_options(options)
     , m_reader(reader)
     , m_events(events)
+    , m_beforeLine(beforeLine)
     , m_begin(reader.position())
     , m_count(std::max<qint64>(1, (reader.fileSize() - m_begin) / options.shareBytes))
     , m_shares(static_cast<std::size_t>(std::min<qint64>(m_count, SharesAThread * options.threads)))
@@ -157,8 +181,12 @@ void SplitWalk::checkShare(qint64 number, Share &share, LineReader &reader) cons
     state.errors = 0;
     share.before = state;
     reader.seek(share.offset, endOf(number));
-    Recorder recorder(share);
-    share.result = LineWalk(m_rules, m_options, reader, recorder).walk(state);
+    Recorder recorder(share, m_events.wantsPassedLines());
+    const BeforeLine look = [&](const CheckPlace &place) {
+        recorder.lookAt(place);
+        return true;
+    };
+    share.result = LineWalk(m_rules, m_options, reader, recorder).walk(state, m_beforeLine ? look : BeforeLine());
     share.after = state;
     share.end = reader.position();
     share.isUsable = true;
@@ -172,12 +200,13 @@ WalkResult SplitWalk::walk(CheckState &state)
     for (qint64 number = 0; number < m_count; ++number) {
         const Share *const share = number == 0 ? nullptr : readyShare(number, *spare);
         if (share && fits(*share, offset, state)) {
-            handOver(*share, state);
+            if (!handOver(*share, state))
+                return {.end = WalkEnd::Cancelled};
             result = share->result;
             offset = share->end;
         } else {
             m_reader.seek(offset, endOf(number));
-            result = LineWalk(m_rules, m_options, m_reader, m_events).walk(state);
+            result = LineWalk(m_rules, m_options, m_reader, m_events).walk(state, m_beforeLine);
             offset = m_reader.position();
         }
         if (result.end != WalkEnd::Stopped)
@@ -212,17 +241,40 @@ bool SplitWalk::fits(const Share &share, qint64 offset, const CheckState &state)
            && share.before.national == state.national && share.before.otherInsurance == state.otherInsurance;
 }
 
-void SplitWalk::handOver(const Share &share, CheckState &state)
+/// Tells what was found in the share as if it were met now. False where a line of it is not to be looked at any more,
+/// with the state before that line.
+bool SplitWalk::handOver(const Share &share, CheckState &state)
 {
-    for (Finding finding : share.findings) {
-        finding.number += state.errors;
-        finding.line += state.records - RecordsBefore;
-        m_events.finding(finding);
+    std::size_t findings = 0;
+    std::size_t passed = 0;
+    const auto tellUpTo = [&](std::size_t findingsEnd, std::size_t passedEnd) {
+        for (; findings < findingsEnd; ++findings) {
+            Finding finding = share.findings[findings];
+            finding.number += state.errors;
+            finding.line += state.records - RecordsBefore;
+            m_events.finding(finding);
+        }
+        if (passed < passedEnd)
+            m_events.passedOver(std::span(share.passed).subspan(passed, passedEnd - passed));
+        passed = passedEnd;
+    };
+    for (const Share::Looked &looked : share.looked) {
+        tellUpTo(looked.findings, looked.passed);
+        CheckPlace place = looked.place;
+        place.state.records += state.records - RecordsBefore;
+        place.state.errors += state.errors;
+        place.state.legalPerson = state.legalPerson;
+        if (!m_beforeLine(place)) {
+            state = place.state;
+            return false;
+        }
     }
+    tellUpTo(share.findings.size(), share.passed.size());
     state.records += share.after.records - RecordsBefore;
     state.errors += share.after.errors;
     state.national = share.after.national;
     state.otherInsurance = share.after.otherInsurance;
+    return true;
 }
 
 void SplitWalk::release(qint64 number)

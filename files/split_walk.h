@@ -19,8 +19,9 @@ namespace zrv {
 /// kept, that thread checks its lines anew from the state as it is. Memory: some 5 MB a thread at most.
 class SplitWalk {
 public:
-    /// All must outlive it. The events are called from the thread that walks alone.
-    SplitWalk(const FileRules &rules, const CheckOptions &options, LineReader &reader, CheckEvents &events);
+    /// All must outlive it. The events, and `beforeLine`, are called from the thread that walks alone.
+    SplitWalk(const FileRules &rules, const CheckOptions &options, LineReader &reader, CheckEvents &events,
+              const BeforeLine &beforeLine);
     ~SplitWalk();
     SplitWalk(const SplitWalk &) = delete;
     SplitWalk &operator=(const SplitWalk &) = delete;
@@ -38,7 +39,7 @@ private:
     void checkShare(qint64 number, Share &share, LineReader &reader) const;
     [[nodiscard]] const Share *readyShare(qint64 number, LineReader &spare);
     [[nodiscard]] static bool fits(const Share &share, qint64 offset, const CheckState &state);
-    void handOver(const Share &share, CheckState &state);
+    [[nodiscard]] bool handOver(const Share &share, CheckState &state);
     void release(qint64 number);
     [[nodiscard]] Share &shareOf(qint64 number);
     [[nodiscard]] qint64 beginOf(qint64 number) const { return m_begin + number * m_options.shareBytes; }
@@ -48,6 +49,7 @@ private:
     const CheckOptions &m_options;
     LineReader &m_reader;
     CheckEvents &m_events;
+    const BeforeLine &m_beforeLine;
     const qint64 m_begin;
     const qint64 m_count; ///< of shares
 

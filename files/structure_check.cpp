@@ -113,10 +113,9 @@ CheckOutcome StructureCheck::walk(const CheckPlace &from, CheckEvents &events, c
 {
     CheckState state = from.state;
     m_reader->seek(from.offset);
-    // Without a reader's place from line to line the cores can share the work.
-    const bool isSplit = m_options.threads > 1 && m_rules.kind == FileKind::Wh && events.wantsErrorsAlone()
-                         && !m_options.firstTwoLines && !beforeLine;
-    const WalkResult result = isSplit ? SplitWalk(m_rules, m_options, *m_reader, events).walk(state)
+    const bool isSplit =
+        m_options.threads > 1 && m_rules.kind == FileKind::Wh && events.wantsErrorsAlone() && !m_options.firstTwoLines;
+    const WalkResult result = isSplit ? SplitWalk(m_rules, m_options, *m_reader, events, beforeLine).walk(state)
                                       : LineWalk(m_rules, m_options, *m_reader, events).walk(state, beforeLine);
     switch (result.end) {
     case WalkEnd::Cancelled:

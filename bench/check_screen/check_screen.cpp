@@ -19,6 +19,7 @@
 
 #include <cstdio>
 #include <ctime>
+#include <thread>
 
 namespace {
 
@@ -92,7 +93,8 @@ int main(int argc, char *argv[])
     QElapsedTimer clock;
     clock.start();
     const ReportClock now = [] { return u"1389/03/03 - 10:30:00"_s; };
-    const CheckOptions options{.programVersion = u"( نسخه 1.1.38 - 89/03/03 )"_s}; // that of the file
+    const CheckOptions options{.programVersion = u"( نسخه 1.1.38 - 89/03/03 )"_s, // that of the file
+                               .threads = std::thread::hardware_concurrency()};
     auto report = std::make_unique<CheckReport>(FileKind::Wh, QString::fromLocal8Bit(argv[1]), options, now);
     constexpr qint64 Interval = 50; // milliseconds
     qint64 due = Interval;

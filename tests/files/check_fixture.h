@@ -20,6 +20,15 @@ inline const QString CheckedVersion = u"( نسخه 1.1.38 - 89/03/03 )"_s;
 inline const QString ControlOfVersion = u"KCDk087lIDEuMS4zOCAtIDg5LzAzLzAzICk="_s;
 inline const ReportClock StandingClock = [] { return u"1389/03/03 - 10:30:00"_s; };
 
+/// Keeps a report as a text.
+class TextSink : public ReportSink {
+public:
+    void add(QStringView piece) override { text += piece; }
+    void endLine() override { text += u"\r\n"; }
+
+    QString text;
+};
+
 /// A line of fields, counted from 1.
 struct TestLine {
     QStringList fields;

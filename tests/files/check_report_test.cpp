@@ -7,18 +7,9 @@
 #include "tests/files/check_fixture.h"
 
 #include <random>
-#include <utility>
 
 namespace zrv {
 namespace {
-
-class TextSink : public ReportSink {
-public:
-    void add(QStringView piece) override { text += piece; }
-    void endLine() override { text += u"\r\n"; }
-
-    QString text;
-};
 
 class CheckReportTest : public StructureCheckTest {
 protected:
@@ -157,23 +148,42 @@ TEST_F(CheckReportTest, ARunThatIsCancelledBehindGoodLinesKeepsTheirReport)
     EXPECT_EQ(sink.text.count(u"-- در حال کنترل خط شماره"_s), 71);
 }
 
-/// Checks the file, gives up line `line` (from 0) at the fourth question in it, and holds what is left of the report
-/// against the lines before.
-void expectGivenUp(FileKind kind, const QString &path, const CheckOptions &options, qint64 line)
+/// Holds what is left of the report of a run that was cancelled before line `line` (from 0) against the lines before.
+void expectEndsBefore(CheckReport &report, const CheckOutcome &ended, qint64 line)
 {
-    int asked = 0;
-    CheckReport report(kind, path, options, StandingClock);
-    const CheckOutcome ended =
-        report.run([&](const CheckPlace &place) { return place.state.records != line || ++asked < 4; });
-    EXPECT_EQ(asked, 4) << "one question stands before the line";
     EXPECT_EQ(ended.end, CheckEnd::Cancelled);
     EXPECT_EQ(ended.records, line);
-    EXPECT_EQ(ended.errors, 0);
     TextSink sink;
     EXPECT_TRUE(report.write(sink));
     EXPECT_EQ(sink.text.size(), report.length());
     EXPECT_EQ(sink.text.count(u"\r\n"_s), report.lineCount());
     EXPECT_EQ(sink.text.count(u"-- در حال کنترل خط شماره"_s), line);
+    EXPECT_EQ(sink.text.count(u"  ÷÷÷÷÷>"_s), ended.errors);
+}
+
+/// Checks the file and gives up line `line` (from 0) at one of the questions in it; the first stands before the line.
+void expectGivenUp(FileKind kind, const QString &path, const CheckOptions &options, qint64 line, int question)
+{
+    int asked = 0;
+    CheckReport report(kind, path, options, StandingClock);
+    const CheckOutcome ended =
+        report.run([&](const CheckPlace &place) { return place.state.records != line || ++asked < question; });
+    EXPECT_EQ(asked, question);
+    EXPECT_EQ(ended.errors, 0);
+    expectEndsBefore(report, ended, line);
+}
+
+/// How often a run asks in that line.
+int questionsIn(FileKind kind, const QString &path, const CheckOptions &options, qint64 line)
+{
+    int asked = 0;
+    CheckReport report(kind, path, options, StandingClock);
+    const CheckOutcome ended = report.run([&](const CheckPlace &place) {
+        asked += place.state.records == line;
+        return true;
+    });
+    EXPECT_EQ(ended.end, CheckEnd::Finished);
+    return asked;
 }
 
 TEST_F(CheckReportTest, ALineOfVeryManyFieldsCanBeGivenUpAndTheReportEndsBeforeIt)
@@ -181,27 +191,55 @@ TEST_F(CheckReportTest, ALineOfVeryManyFieldsCanBeGivenUpAndTheReportEndsBeforeI
     const QString many(200'000, u',');
     const QString salaries =
         write(utf16File({payerLine(), payeeLine(), QString(payeeLine()) + many, payeeLine()}), u"WH138902.TXT"_s);
-    expectGivenUp(FileKind::Wh, salaries, options, 2);
+    expectGivenUp(FileKind::Wh, salaries, options, 2, 4);
     const QString summaries = write(utf16File({summaryLine(), QString(summaryLine()) + many}), u"WK138902.TXT"_s);
-    expectGivenUp(FileKind::Wk, summaries, options, 1);
+    expectGivenUp(FileKind::Wk, summaries, options, 1, 4);
 }
 
-TEST_F(CheckReportTest, ALineOfVeryManyFieldsThatIsStillMeasuredWhenTheCheckIsThroughCanBeGivenUpToo)
+TEST_F(CheckReportTest, ALineOfVeryManyFieldsThatIsMeasuredAlreadyCanBeGivenUpInItsCheckToo)
 {
     const QString path =
-        write(utf16File({payerLine(), QString(payeeLine()) + QString(2'000'000, u','), payeeLine().with(2, u""_s)}),
+        write(utf16File({payerLine(), payeeLine(), QString(payeeLine()) + QString(200'000, u','), payeeLine()}),
               u"WH138902.TXT"_s);
-    bool isThrough = false;
-    CheckReport givenUp(FileKind::Wh, path, options, StandingClock);
-    const CheckOutcome ended = givenUp.run(
-        [&](const CheckPlace &place) { return place.state.records < 2 || !std::exchange(isThrough, true); });
-    EXPECT_EQ(ended.end, CheckEnd::Cancelled);
-    EXPECT_EQ(ended.records, 1);
-    EXPECT_EQ(ended.errors, 0);
-    TextSink sink;
-    EXPECT_TRUE(givenUp.write(sink));
-    EXPECT_EQ(sink.text.size(), givenUp.length());
-    EXPECT_FALSE(sink.text.contains(u"پايان عمليات"_s));
+    const int questions = questionsIn(FileKind::Wh, path, options, 2);
+    ASSERT_GT(questions, 8);
+    expectGivenUp(FileKind::Wh, path, options, 2, questions);
+}
+
+TEST_F(CheckReportTest, LinesInTheSharesOfSeveralThreadsAreMeasuredAsTheyAreWritten)
+{
+    for (const int goodOnes : {0, 1, 7, 200}) {
+        QStringList lines{legalPayerLine()};
+        for (int line = 0; line < 1200; ++line)
+            lines += random(1 + goodOnes) == 0 ? anyBadPayee() : anyPayee();
+        for (const qint64 share : {1000, 5000, 60'000}) {
+            options.threads = 2 + unsigned(random(3));
+            options.shareBytes = share;
+            compare(lines);
+        }
+    }
+}
+
+TEST_F(CheckReportTest, ARunInSharesEndsBeforeTheLineAtWhichItIsCancelled)
+{
+    QStringList lines{legalPayerLine()};
+    for (int line = 0; line < 400; ++line)
+        lines += random(2) == 0 ? payeeLine().with(2, u"1x"_s) : anyPayee();
+    const QString path = write(utf16File(lines), u"WH138902.TXT"_s);
+    options.threads = 3;
+    options.shareBytes = 5000;
+    for (const qint64 end : {1, 2, 50, 123, 350}) {
+        CheckReport cancelled(FileKind::Wh, path, options, StandingClock);
+        qint64 last = 0;
+        const CheckOutcome ended = cancelled.run([&](const CheckPlace &place) {
+            EXPECT_GE(place.state.records, last) << "in the file's order";
+            last = place.state.records;
+            return last < end;
+        });
+        EXPECT_EQ(ended.records, last);
+        EXPECT_LT(last, end + 20);
+        expectEndsBefore(cancelled, ended, last);
+    }
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// Whether passing over faultless lines, or sharing a file among threads, ever changes what is found: files damaged at
+// Whether passing over faultless lines, or sharing a file among threads, ever changes what is found, or how long the
+// report is measured to be: files damaged at
 // random, checked field by field and with every kind of instructions, several sizes of blocks and numbers of threads.
 
 #include "tests/files/check_fixture.h"
@@ -44,6 +45,22 @@ protected:
         return list.text + QString::number(int(ended.end)) + u' ' + QString::number(ended.records) + u' '
                + QString::number(ended.errors) + u' ' + QString::number(ended.line) + u' '
                + QString::number(ended.field);
+    }
+
+    /// The length of a report, and its lines.
+    using Size = std::pair<qint64, qint64>;
+    Size measuredReport(const QString &path) const
+    {
+        CheckReport measured(FileKind::Wh, path, options, StandingClock);
+        (void)measured.run([](const CheckPlace &) { return true; });
+        return {measured.length(), measured.lineCount()};
+    }
+    Size writtenReport(const QString &path) const
+    {
+        TextSink sink;
+        ReportWriter writer(whRules(), options, StandingClock, sink);
+        (void)StructureCheck(whRules(), path, options).run(writer);
+        return {sink.text.size(), sink.text.count(u"\r\n"_s) + (sink.text.endsWith(u"\r\n"_s) ? 0 : 1)};
     }
 
     static std::vector<Instructions> allInstructions()
@@ -186,6 +203,7 @@ TEST_F(FaultlessLinesTest, DamagedFilesHaveTheSameErrorsHoweverTheyAreRead)
             QByteArray(reinterpret_cast<const char *>(text.utf16()), text.size() * 2 - round % 2), u"WH138902.TXT"_s);
         options = {.programVersion = CheckedVersion};
         const QString expected = found(path, false);
+        const Size written = writtenReport(path);
         for (const Instructions one : allInstructions()) {
             options.instructions = one;
             for (const std::size_t block : {2, 100, 1001, 131072}) {
@@ -195,6 +213,7 @@ TEST_F(FaultlessLinesTest, DamagedFilesHaveTheSameErrorsHoweverTheyAreRead)
                 options.threads = 2 + unsigned(dice() % 3);
                 options.shareBytes = std::array{200, 1000, 5000, 20000}[dice() % 4];
                 ASSERT_EQ(found(path, true), expected) << "round " << round << ", share " << options.shareBytes;
+                ASSERT_EQ(measuredReport(path), written) << "round " << round << ", share " << options.shareBytes;
             }
         }
     }

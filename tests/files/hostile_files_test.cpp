@@ -27,14 +27,6 @@ protected:
     QString path(const QString &name) const { return m_folder.filePath(name); }
 };
 
-class TextSink : public ReportSink {
-public:
-    void add(QStringView piece) override { text += piece; }
-    void endLine() override { text += u"\r\n"; }
-
-    QString text;
-};
-
 TEST_F(HostileFiles, AFolderIsNoFile)
 {
     ASSERT_TRUE(QDir().mkpath(path(u"WH138902.TXT"_s)));

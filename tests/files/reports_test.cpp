@@ -27,14 +27,6 @@ QByteArray bytesOf(const QString &path)
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-class TextSink : public ReportSink {
-public:
-    void add(QStringView piece) override { text += piece; }
-    void endLine() override { text += u"\r\n"; }
-
-    QString text;
-};
-
 /// A case's folder, read.
 struct ReportCase {
     explicit ReportCase(const QString &name)
