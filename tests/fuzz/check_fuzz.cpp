@@ -70,8 +70,12 @@ void check(FileKind kind, const QString &path, const CheckOptions &options)
     }
     (void)closingBox(kind, outcome);
 
-    CheckReport report(kind, path, options, [] { return u"-"_s; });
+    const ReportClock clock = [] { return u"-"_s; };
+    CheckReport report(kind, path, options, clock);
     (void)report.run();
+    CheckReport shared(kind, path, otherwise, clock);
+    (void)shared.run();
+    expect(shared.length() == report.length() && shared.lineCount() == report.lineCount());
     Whole whole;
     expect(report.write(whole) && whole.text.size() == report.length());
     QString pieces;
