@@ -2,6 +2,7 @@
 #include "qt/look.h"
 
 #include "qt/caption_label.h"
+#include "qt/spoken_field.h"
 #include "qt/style.h"
 
 #include <QAbstractButton>
@@ -44,6 +45,7 @@ void setUp(QApplication &application)
 {
     QApplication::setLayoutDirection(Qt::RightToLeft);
     QApplication::setStyle(new Style);
+    speakForFields();
     QApplication::setPalette(palette());
     QFont font;
     font.setFamilies({u"Noto Sans Arabic"_s, u"Noto Sans"_s, u"DejaVu Sans"_s});

@@ -251,6 +251,149 @@ TEST(SpokenNames, ButtonThatIsGivenAnotherCaptionHasItsName)
     EXPECT_EQ(spoken(shown.input(shown.form.dots)).text(QAccessible::Description), u"Alt+ا"_s);
 }
 
+// Fields ------------------------------------------------------------------------------------------------------------
+
+namespace {
+
+class FieldForm : public TestForm {
+public:
+    TextBox word{*this, u"word"_s};
+    TextBox secret{*this, u"secret"_s, {.password = u'*'}};
+};
+
+struct Part {
+    QString text;
+    int begin = 0;
+    int end = 0;
+    bool operator==(const Part &) const = default;
+};
+
+Part partAt(QAccessibleTextInterface &text, int place, QAccessible::TextBoundaryType unit)
+{
+    Part part;
+    part.text = text.textAtOffset(place, unit, &part.begin, &part.end);
+    return part;
+}
+
+} // namespace
+
+/// It is asked there after each letter that is typed; were the answer sought for ever, so would this test's be.
+TEST(SpokenField, BehindTheLastLetterIsTheLastWord)
+{
+    Shown<FieldForm> shown;
+    shown.form.word.setText(u"علي رضايي"_s);
+    QAccessibleTextInterface &text = *spoken(shown.input(shown.form.word)).textInterface();
+    text.setCursorPosition(9);
+    for (const int place : {8, 9, -1, -2})
+        EXPECT_EQ(partAt(text, place, QAccessible::WordBoundary), (Part{u"رضايي"_s, 4, 9})) << place;
+    EXPECT_EQ(partAt(text, 9, QAccessible::SentenceBoundary), (Part{u"علي رضايي"_s, 0, 9}));
+    EXPECT_EQ(partAt(text, 9, QAccessible::LineBoundary), (Part{u"علي رضايي"_s, 0, 9}));
+    EXPECT_EQ(partAt(text, 0, QAccessible::WordBoundary), (Part{u"علي"_s, 0, 3}));
+    EXPECT_EQ(partAt(text, 10, QAccessible::WordBoundary).text, QString());
+    shown.form.word.setText({});
+    for (int unit = QAccessible::CharBoundary; unit <= QAccessible::NoBoundary; ++unit)
+        EXPECT_EQ(partAt(text, 0, QAccessible::TextBoundaryType(unit)).text, QString()) << unit;
+}
+
+TEST(SpokenField, EveryPartOfEveryTextIsTold)
+{
+    Shown<FieldForm> shown;
+    QAccessibleTextInterface &text = *spoken(shown.input(shown.form.word)).textInterface();
+    for (const QString &written :
+         {u" "_s, u"a"_s, u"علي "_s, u" علي. رضا ! "_s, u"-۱۲/۵-"_s, u"می‌شود"_s, u"كُلّ"_s, u"..."_s}) {
+        shown.form.word.setText(written);
+        const int length = static_cast<int>(text.characterCount());
+        ASSERT_EQ(length, written.size());
+        for (int unit = QAccessible::CharBoundary; unit <= QAccessible::NoBoundary; ++unit) {
+            QString joined;
+            for (int place = 0; place < length;) {
+                const Part part = partAt(text, place, QAccessible::TextBoundaryType(unit));
+                ASSERT_EQ(part.begin, place) << qPrintable(written) << ' ' << unit;
+                ASSERT_GT(part.end, place) << qPrintable(written) << ' ' << unit;
+                Part after;
+                after.text = text.textAfterOffset(place, QAccessible::TextBoundaryType(unit), &after.begin, &after.end);
+                EXPECT_EQ(after, part.end < length ? partAt(text, part.end, QAccessible::TextBoundaryType(unit))
+                                                   : (Part{QString(), -1, -1}));
+                joined += part.text;
+                place = part.end;
+            }
+            EXPECT_EQ(joined, written) << unit;
+        }
+    }
+    shown.form.word.setText(u"علي رضا"_s);
+    Part before;
+    before.text = text.textBeforeOffset(4, QAccessible::WordBoundary, &before.begin, &before.end);
+    EXPECT_EQ(before, (Part{u" "_s, 3, 4}));
+}
+
+TEST(SpokenField, NothingOfAPasswordIsTold)
+{
+    Shown<FieldForm> shown;
+    shown.form.secret.setText(u"Pass word"_s);
+    QAccessibleInterface &field = spoken(shown.input(shown.form.secret));
+    EXPECT_TRUE(field.state().passwordEdit);
+    EXPECT_EQ(field.text(QAccessible::Value), QString(9, u'*'));
+    EXPECT_EQ(field.textInterface()->text(0, 9), QString());
+    for (int unit = QAccessible::CharBoundary; unit <= QAccessible::NoBoundary; ++unit)
+        for (int place = -2; place <= 9; ++place)
+            EXPECT_EQ(partAt(*field.textInterface(), place, QAccessible::TextBoundaryType(unit)).text, QString());
+    EXPECT_FALSE(spoken(shown.input(shown.form.word)).state().passwordEdit);
+}
+
+TEST(SpokenField, AReaderMovesTheCursorMarksAndWritesUnlessTheFieldIsLocked)
+{
+    Shown<FieldForm> shown;
+    TextBox &word = shown.form.word;
+    QAccessibleInterface &field = spoken(shown.input(word));
+    QAccessibleTextInterface &text = *field.textInterface();
+    EXPECT_TRUE(field.state().editable);
+    field.editableTextInterface()->insertText(0, u"علي رضايي"_s);
+    EXPECT_EQ(word.text(), u"علي رضايي"_s);
+    EXPECT_EQ(text.characterCount(), 9);
+    EXPECT_EQ(text.text(4, 9), u"رضايي"_s);
+    text.setCursorPosition(4);
+    EXPECT_EQ(text.cursorPosition(), 4);
+    EXPECT_EQ(text.selectionCount(), 0);
+    text.addSelection(4, 9);
+    int begin = 0;
+    int end = 0;
+    text.selection(0, &begin, &end);
+    EXPECT_EQ(text.selectionCount(), 1);
+    EXPECT_EQ(begin, 4);
+    EXPECT_EQ(end, 9);
+    text.removeSelection(0);
+    EXPECT_EQ(text.selectionCount(), 0);
+    field.editableTextInterface()->deleteText(3, 9);
+    EXPECT_EQ(word.text(), u"علي"_s);
+    word.setLocked(true);
+    field.editableTextInterface()->replaceText(0, 3, u"رضا"_s);
+    field.setText(QAccessible::Value, u"رضا"_s);
+    EXPECT_EQ(word.text(), u"علي"_s);
+    EXPECT_TRUE(field.state().readOnly);
+}
+
+TEST(SpokenField, EachLetterIsFoundWhereItStands)
+{
+    Shown<FieldForm> shown;
+    const QString both = u"علي abc ۱۲"_s;
+    shown.form.word.setText(both);
+    QAccessibleTextInterface &text = *spoken(shown.input(shown.form.word)).textInterface();
+    (void)shown.window.grab(); // Only what is drawn has its place.
+    const QRect field(shown.line(shown.form.word).mapToGlobal(QPoint()), shown.line(shown.form.word).size());
+    int right = field.right();
+    for (int place = 0; place < 3; ++place) {
+        const QRect room = text.characterRect(place);
+        EXPECT_TRUE(field.contains(room)) << place;
+        EXPECT_LE(room.right(), right + 2) << "from right to left: " << place;
+        right = room.left();
+        const int found = text.offsetAtPoint(room.center());
+        EXPECT_TRUE(found == place || found == place + 1) << place << ' ' << found;
+    }
+    EXPECT_LT(text.characterRect(4).left(), text.characterRect(5).left()) << "Latin letters from left to right";
+    EXPECT_TRUE(text.characterRect(static_cast<int>(both.size())).isEmpty());
+    EXPECT_EQ(text.offsetAtPoint(field.topLeft() - QPoint(5, 5)), -1);
+}
+
 // Long tables -------------------------------------------------------------------------------------------------------
 
 namespace {
