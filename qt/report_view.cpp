@@ -13,7 +13,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QStyleHints>
-#include <QStyleOptionFocusRect>
 #include <QTimerEvent>
 
 #include <algorithm>
@@ -216,12 +215,11 @@ void ReportView::paintLine(QPainter &painter, const QRect &room, const QString &
     const int right = room.right() - Margin + horizontalScrollBar()->value();
     const QRect place(QPoint(right - std::max(m_widest, room.width()), room.top()), QPoint(right, room.bottom()));
     painter.drawText(place, Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine, text);
-    if (line != m_box.currentLine() || !hasFocus())
+    // Alone its ground shows it; among other marked lines a ring does, which would be lost in the ground's colour.
+    if (line != m_box.currentLine() || line == m_box.anchorLine() || !hasFocus())
         return;
-    QStyleOptionFocusRect ring;
-    ring.initFrom(this);
-    ring.rect = room;
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, this);
+    painter.setPen(QPen(ink, 1, Qt::DotLine));
+    painter.drawRect(room.adjusted(1, 1, -2, -2));
 }
 
 void ReportView::paintEvent(QPaintEvent *event)

@@ -3,6 +3,7 @@
 #include "qt/report_view.h"
 #include "tests/qt/window_fixture.h"
 
+#include <QAccessible>
 #include <QScrollBar>
 
 namespace zrv::test {
@@ -72,13 +73,18 @@ protected:
         pressKey(view(), key, text, held);
         QCoreApplication::processEvents();
     }
-    void mouse(QEvent::Type type, qint64 line, Qt::KeyboardModifiers held = {})
+    void mouse(QEvent::Type type, qint64 line, Qt::KeyboardModifiers held = {}, Qt::MouseButton button = Qt::LeftButton)
     {
         const QPointF place = QRectF(view().lineRect(line)).center();
         const bool isRelease = type == QEvent::MouseButtonRelease;
         QMouseEvent event(type, place, view().viewport()->mapToGlobal(place),
-                          type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
-                          isRelease ? Qt::NoButton : Qt::LeftButton, held);
+                          type == QEvent::MouseMove ? Qt::NoButton : button, isRelease ? Qt::NoButton : button, held);
+        QApplication::sendEvent(view().viewport(), &event);
+    }
+    void wheel(int turned, Qt::KeyboardModifiers held = {})
+    {
+        QWheelEvent event({5, 5}, view().mapToGlobal(QPointF(5, 5)), {}, {0, turned}, Qt::NoButton, held,
+                          Qt::NoScrollPhase, false);
         QApplication::sendEvent(view().viewport(), &event);
     }
     ReportView &view() { return static_cast<ReportView &>(*shown.window.inputFor(report)); }
@@ -143,11 +149,52 @@ TEST_F(Reports, EveryLineOfSeventyMillionHasAPlaceOnTheBar)
 
 TEST_F(Reports, TheWheelMovesAFewLines)
 {
-    QWheelEvent wheel({5, 5}, view().mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
-                      false);
-    QApplication::sendEvent(view().viewport(), &wheel);
+    wheel(-120);
     EXPECT_EQ(view().topLine(), QApplication::wheelScrollLines());
     EXPECT_EQ(report.currentLine(), 0) << "only the view moves";
+}
+
+TEST_F(Reports, AWheelThatTurnsFinelyMovesAsFarInAll)
+{
+    for (int step = 0; step < 12; ++step)
+        wheel(-50);
+    EXPECT_EQ(view().topLine(), 5 * QApplication::wheelScrollLines());
+}
+
+TEST_F(Reports, TheWheelStopsAtTheEnds)
+{
+    show(100);
+    wheel(120);
+    EXPECT_EQ(view().topLine(), 0);
+    wheel(-120 * 100);
+    EXPECT_EQ(view().topLine(), 100 - view().linesInView());
+}
+
+TEST_F(Reports, TheWheelWithShiftTurnsPages)
+{
+    show(100);
+    wheel(-120, Qt::ShiftModifier);
+    EXPECT_EQ(view().topLine(), view().linesInView());
+}
+
+TEST_F(Reports, AnotherHeightOfTheWindowOrOfTheLettersIsAnotherPage)
+{
+    show(100);
+    const qint64 before = view().linesInView();
+    const auto expectFit = [this] {
+        EXPECT_EQ(view().verticalScrollBar()->maximum(), 100 - view().linesInView());
+        EXPECT_EQ(view().verticalScrollBar()->pageStep(), view().linesInView());
+    };
+    shown.window.resize(600, 250);
+    QCoreApplication::processEvents();
+    const qint64 low = view().linesInView();
+    EXPECT_LT(low, before);
+    expectFit();
+    QFont font = view().font();
+    font.setPointSizeF(font.pointSizeF() * 2);
+    view().setFont(font);
+    EXPECT_LT(view().linesInView(), low);
+    expectFit();
 }
 
 TEST_F(Reports, KeysGoThroughTheLinesAndTheViewFollows)
@@ -163,6 +210,23 @@ TEST_F(Reports, KeysGoThroughTheLinesAndTheViewFollows)
     EXPECT_EQ(view().topLine(), 0);
     press(Qt::Key_F8);
     EXPECT_EQ(report.currentLine(), 1000);
+}
+
+TEST_F(Reports, ShiftMarksOnTheWayThatAKeyGoes)
+{
+    const qint64 page = view().linesInView();
+    report.setCurrentLine(100);
+    press(Qt::Key_PageDown, Qt::ShiftModifier);
+    EXPECT_EQ(report.currentLine(), 100 + page);
+    press(Qt::Key_PageUp, Qt::ShiftModifier);
+    press(Qt::Key_Up, Qt::ShiftModifier);
+    EXPECT_EQ(report.currentLine(), 99);
+    press(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(report.currentLine(), Billions - 1);
+    EXPECT_EQ(report.anchorLine(), 100);
+    press(Qt::Key_Home, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(report.currentLine(), 0);
+    EXPECT_EQ(report.anchorLine(), 100);
 }
 
 TEST_F(Reports, LinesAreMarkedByShiftAndByMouseAndCopied)
@@ -182,6 +246,70 @@ TEST_F(Reports, LinesAreMarkedByShiftAndByMouseAndCopied)
     EXPECT_EQ(report.currentLine(), 2);
     chooseFromContextMenu(view(), u"copy"_s);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), u"خط 2\r\nخط 3\r\nخط 4\r\n"_s);
+}
+
+TEST_F(Reports, TheRightButtonLeavesWhatIsMarkedAndChoosesWhatIsNot)
+{
+    report.select(2, 4);
+    mouse(QEvent::MouseButtonPress, 3, {}, Qt::RightButton);
+    EXPECT_EQ(report.anchorLine(), 2);
+    EXPECT_EQ(report.currentLine(), 4);
+    mouse(QEvent::MouseButtonPress, 6, {}, Qt::RightButton);
+    EXPECT_EQ(report.anchorLine(), 6);
+    EXPECT_EQ(report.currentLine(), 6);
+}
+
+TEST_F(Reports, OnlyTheLeftButtonMarksOnItsWay)
+{
+    mouse(QEvent::MouseButtonPress, 2);
+    mouse(QEvent::MouseButtonRelease, 2);
+    mouse(QEvent::MouseMove, 5, {}, Qt::RightButton);
+    EXPECT_EQ(report.currentLine(), 2);
+}
+
+TEST_F(Reports, AMouseHeldBelowTheViewMarksOnTillItIsReleased)
+{
+    const QPoint below = view().viewport()->mapToGlobal(QPoint(20, view().viewport()->height() + 5));
+    mouse(QEvent::MouseButtonPress, 3);
+    QCursor::setPos(below);
+    mouse(QEvent::MouseMove, view().linesInView() + 2);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return view().topLine() > 2 || report.currentLine() < 3; }));
+    EXPECT_EQ(report.anchorLine(), 3);
+    EXPECT_EQ(view().topLine(), report.currentLine() - view().linesInView() + 1);
+    mouse(QEvent::MouseButtonRelease, report.currentLine());
+    const qint64 reached = report.currentLine();
+    QTest::qWait(120);
+    EXPECT_EQ(report.currentLine(), reached);
+}
+
+TEST_F(Reports, BehindTheLastLineThereIsNothingToChoose)
+{
+    QList<qint64> told;
+    report.onLineDoubleClick = [&](qint64 line) { told += line; };
+    show(3);
+    mouse(QEvent::MouseButtonPress, 4);
+    mouse(QEvent::MouseButtonDblClick, 4);
+    EXPECT_EQ(report.currentLine(), 0);
+    EXPECT_EQ(told, QList<qint64>());
+}
+
+TEST_F(Reports, TheMenuHasOnlyWhatLeavesTheTextAsItIs)
+{
+    const auto isOffered = [this](const QString &name) {
+        QContextMenuEvent open(QContextMenuEvent::Keyboard, {}, view().mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(&view(), &open);
+        const auto *const action = view().findChild<QAction *>(name);
+        const bool isIt = action && action->isEnabled();
+        if (QWidget *const menu = QApplication::activePopupWidget())
+            menu->close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return isIt;
+    };
+    EXPECT_TRUE(isOffered(u"copy"_s));
+    for (const QString &name : {u"cut"_s, u"paste"_s, u"delete"_s})
+        EXPECT_FALSE(isOffered(name)) << qPrintable(name);
+    report.setText({});
+    EXPECT_FALSE(isOffered(u"copy"_s));
 }
 
 TEST_F(Reports, AllThatIsTooMuchToCopyIsRefusedInABox)
@@ -211,6 +339,7 @@ TEST_F(Reports, ADoubleClickAndEnterTellTheScreenOfTheLine)
     mouse(QEvent::MouseButtonPress, 3);
     mouse(QEvent::MouseButtonRelease, 3);
     mouse(QEvent::MouseButtonDblClick, 3);
+    mouse(QEvent::MouseButtonDblClick, 3, {}, Qt::RightButton);
     press(Qt::Key_Down);
     press(Qt::Key_Return, {}, u"\r"_s);
     EXPECT_EQ(told, (QList<qint64>{3, 4}));
@@ -225,6 +354,47 @@ TEST_F(Reports, LinesThatTellAnErrorAndMarkedOnesHaveTheirOwnGround)
     EXPECT_NE(colorAt(2), plain);
     EXPECT_NE(colorAt(2), colorAt(0));
     EXPECT_EQ(colorAt(3), plain);
+    report.select(3, 1);
+    EXPECT_EQ(colorAt(2), colorAt(3)) << "marked from below";
+    EXPECT_NE(colorAt(2), plain);
+}
+
+TEST_F(Reports, OfMarkedLinesTheCurrentOneHasARing)
+{
+    report.select(2, 3);
+    const QImage picture = view().viewport()->grab().toImage();
+    const auto leftPart = [&](qint64 line) {
+        const QRect place = view().lineRect(line);
+        const double scale = picture.devicePixelRatio();
+        return picture.copy(QRect(0, qRound(place.top() * scale), qRound(20 * scale), qRound(place.height() * scale)));
+    };
+    EXPECT_NE(leftPart(3), leftPart(2));
+    EXPECT_EQ(leftPart(4), leftPart(5));
+}
+
+TEST_F(Reports, TheScreensColoursAreTheViews)
+{
+    report.setBackColor(color::RequiredEmpty);
+    show(5);
+    EXPECT_EQ(colorAt(3) & 0xFFFFFF, QRgb(color::RequiredEmpty) & 0xFFFFFF);
+}
+
+TEST_F(Reports, AReportThatLosesTheFocusIsDrawnAnew)
+{
+    class Paints : public QObject {
+    public:
+        bool eventFilter(QObject *watched, QEvent *event) override
+        {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return QObject::eventFilter(watched, event);
+        }
+        int count = 0;
+    } paints;
+    QCoreApplication::processEvents();
+    view().viewport()->installEventFilter(&paints);
+    form.userFocus(form.before);
+    QCoreApplication::processEvents();
+    EXPECT_GT(paints.count, 0);
 }
 
 TEST_F(Reports, ALongLineScrollsSidewaysFromTheRight)
@@ -237,13 +407,25 @@ TEST_F(Reports, ALongLineScrollsSidewaysFromTheRight)
     QCoreApplication::processEvents();
     QScrollBar &bar = *view().horizontalScrollBar();
     EXPECT_GT(bar.maximum(), 600);
+    EXPECT_LT(bar.maximum(), view().fontMetrics().horizontalAdvance(QString(10'000, u'ب')))
+        << "the rest is only copied";
     press(Qt::Key_Left);
     EXPECT_GT(bar.value(), 0);
+    press(Qt::Key_Right);
+    EXPECT_EQ(bar.value(), 0);
+    press(Qt::Key_Down);
+    const QImage begin = view().viewport()->grab().toImage();
     press(Qt::Key_End);
     EXPECT_EQ(bar.value(), bar.maximum());
+    EXPECT_NE(view().viewport()->grab().toImage(), begin);
     press(Qt::Key_Home);
     EXPECT_EQ(bar.value(), 0);
-    EXPECT_EQ(report.currentLine(), 0);
+    EXPECT_EQ(view().viewport()->grab().toImage(), begin);
+    EXPECT_EQ(report.currentLine(), 1) << "only the view moves";
+    report.setCurrentLine(4);
+    EXPECT_LT(view().accessibleDescription().size(), 10'000);
+    show(5);
+    EXPECT_EQ(bar.maximum(), 0) << "the long line is gone";
 }
 
 TEST_F(Reports, AShortReportBeginsAtTheRight)
@@ -300,6 +482,9 @@ TEST_F(Reports, AScreenReaderHearsTheNameAndTheCurrentLine)
     EXPECT_EQ(view().accessibleName(), u"گزارش"_s);
     press(Qt::Key_Down);
     EXPECT_EQ(view().accessibleDescription(), u"خط 1"_s);
+    press(Qt::Key_End, Qt::ControlModifier);
+    EXPECT_EQ(view().accessibleDescription(), u"خط "_s + QString::number(Billions - 1));
+    EXPECT_TRUE(QAccessible::queryAccessibleInterface(&view())->state().focusable);
 }
 
 TEST_F(Reports, TheTabKeyLeavesAReport)
