@@ -181,6 +181,16 @@ TEST(ReportBox, EnterAndADoubleClickTellTheScreenOfTheLine)
     EXPECT_EQ(told, (QList<qint64>{1, 9}));
 }
 
+TEST(ReportBox, ADoubleClickOnAReportWithoutLinesTellsNothing)
+{
+    ReportForm form;
+    int told = 0;
+    form.report.onLineDoubleClick = [&](qint64) { ++told; };
+    form.report.setLines(nullptr);
+    form.userDblClick(form.report);
+    EXPECT_EQ(told, 0);
+}
+
 TEST(ReportBox, EnterIsTheDefaultButtonsWhereTheScreenHasNoUseForALine)
 {
     ReportForm form(50);
@@ -246,6 +256,82 @@ TEST(ReportBox, SaysWhenAWordIsNowhere)
     EXPECT_EQ(form.report.currentLine(), 0);
     type(form, u"x"_s);
     EXPECT_EQ(form.label(), u"جستجو : "_s);
+}
+
+TEST(ReportBox, TheFieldOpensAnewAsForTheFirstTime)
+{
+    ReportForm form(1500);
+    form.userKey(Key::Find);
+    type(form, u"nowhere"_s);
+    form.userKey(Key::Enter);
+    form.userKey(Key::Escape);
+    form.userKey(Key::Find);
+    EXPECT_EQ(form.label(), u"جستجو : "_s);
+    type(form, u"line 14"_s);
+    EXPECT_EQ(form.part(u"Find"_s).shownText(), u"line 14"_s) << "what is typed takes the last word's place";
+}
+
+TEST(ReportBox, F3AndF8WorkInTheReportAndInTheFieldAlike)
+{
+    ReportForm form(1500);
+    form.lines->errors = {7};
+    form.userKey(Key::Find);
+    type(form, u"line 14"_s);
+    form.userKey(Key::F8);
+    EXPECT_EQ(form.report.currentLine(), 7);
+    EXPECT_TRUE(form.part(u"Find"_s).hasFocus());
+    form.report.setFocus();
+    form.userKey(Key::F3);
+    EXPECT_EQ(form.report.currentLine(), 14);
+    EXPECT_TRUE(form.report.hasFocus());
+}
+
+TEST(ReportBox, TheButtonBesideTheFieldGoesOnAndKnowsTheFieldsKeys)
+{
+    ReportForm form(1500);
+    form.userKey(Key::Find);
+    type(form, u"line 14"_s);
+    form.userClick(form.part(u"FindNext"_s));
+    EXPECT_EQ(form.report.currentLine(), 14);
+    form.part(u"FindNext"_s).setFocus();
+    form.userKey(Key::F3);
+    EXPECT_EQ(form.report.currentLine(), 140);
+    form.userKey(Key::Enter);
+    EXPECT_EQ(form.report.currentLine(), 141) << "once, as any button";
+    form.userKey(Key::Escape);
+    EXPECT_FALSE(form.part(u"Find"_s).isShown());
+}
+
+TEST(ReportBox, ASearchTellsHowFarItIsAndEndsWhereItBegan)
+{
+    ReportForm form(10'000);
+    QStringList told;
+    form.report.onSearching = [&] { told += form.label(); };
+    form.report.setCurrentLine(4'999);
+    form.userKey(Key::Find);
+    type(form, u"nowhere"_s);
+    form.lines->asked = 0;
+    form.userKey(Key::Enter);
+    EXPECT_EQ(told.front(), u"در حال جستجو (60%) : "_s);
+    EXPECT_TRUE(told.contains(u"در حال جستجو (100%) : "_s));
+    EXPECT_EQ(told.back(), u"در حال جستجو (51%) : "_s);
+    EXPECT_LT(form.lines->asked, 12'000);
+}
+
+TEST(ReportBox, AnotherReportEndsTheSearchInTheOneBefore)
+{
+    ReportForm form(3'000'000'000);
+    int calls = 0;
+    form.report.onSearching = [&] {
+        if (++calls == 2)
+            form.report.setText(u"another"_s);
+        ASSERT_LT(calls, 10);
+    };
+    form.userKey(Key::Find);
+    type(form, u"nowhere"_s);
+    form.userKey(Key::Enter);
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(form.label(), u"جستجو متوقف شد : "_s);
 }
 
 TEST(ReportBox, TheStopButtonWorksWhileAWordIsSought)
@@ -318,6 +404,19 @@ TEST(ReportBox, AReportThatIsGoneLeavesTheErrorsWordsInItsPlace)
         EXPECT_EQ(form.report.text(), gone);
         EXPECT_EQ(form.report.page(0, 5).lines, QStringList{gone});
     }
+}
+
+TEST(ReportBox, AReportThatIsGoneBeforeItIsShownTellsSoAsWell)
+{
+    class Gone : public Lines {
+    public:
+        using Lines::Lines;
+        [[nodiscard]] qint64 lineCount() override { throw RunTimeError(error::DeviceIo, u"the file has changed"_s); }
+    };
+    ReportForm form;
+    form.report.setLines(std::make_shared<Gone>(3));
+    EXPECT_EQ(form.report.text(), u"the file has changed"_s);
+    EXPECT_EQ(form.report.lineCount(), 1);
 }
 
 } // namespace
