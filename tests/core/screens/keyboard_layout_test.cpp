@@ -1,33 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "core/keyboard_layout.h"
-#include "tests/core/screens/quiet_platform.h"
+#include "tests/core/screens/keyboards.h"
 
 #include <gtest/gtest.h>
-#include <set>
-#include <vector>
 
 namespace zrv {
 namespace {
 
-constexpr quint32 UsEnglish = 0x04090409;
-constexpr quint32 Arabic = 0x04010401;
-constexpr quint32 PersianArabic = 0x04010429;
-constexpr quint32 Persian = 0x04290429;
-constexpr quint32 German = 0x04070407;
-
-struct Keyboards : QuietPlatform {
-    quint32 current = UsEnglish;
-    std::set<quint32> present{UsEnglish, Arabic, PersianArabic, Persian};
-    std::vector<quint32> tried;
-
-    quint32 keyboardLayout() override { return current; }
-    void activateKeyboardLayout(quint32 layout) override
-    {
-        tried.push_back(layout);
-        if (present.contains(layout))
-            current = layout;
-    }
-};
+using namespace layout;
 
 TEST(SwitchToPersianKeyboard, TriesTheThreeLayoutsInOrder)
 {
