@@ -241,6 +241,36 @@ TEST_F(SalaryScreen, PayeeOfTwoPayersIsPassedTwiceAndLeftBehind)
     EXPECT_EQ(screen.dcbMelliCode.text(), QString());
 }
 
+/// The payee search of a user who picks this code and is back at once.
+class AnsweringSearch : public Screen {
+public:
+    AnsweringSearch(Program &program, const QString &code)
+        : Screen(program, u"frmSrcKarkonan"_s)
+    {
+        program.SelectedMelliCode = code;
+    }
+};
+
+TEST_F(SalaryScreen, SearchThatHandsMinusOneBackChangesNothing)
+{
+    QString handedBack = u"P123456"_s;
+    program.catalogue.add(u"frmSrcKarkonan"_s, [&](Program &of) {
+        EXPECT_EQ(of.SearchCallerName, u"frmHogog"_s);
+        return std::make_unique<AnsweringSearch>(of, handedBack);
+    });
+    openMonth();
+    ASSERT_TRUE(screen.userClick(screen.cmdSearchMoadi));
+    ASSERT_EQ(screen.dcbMelliCode.boundText(), u"P123456"_s);
+    platform.boxes.clear();
+    for (const auto &none : {u"-1"_s, QString()}) {
+        handedBack = none;
+        ASSERT_TRUE(screen.userClick(screen.cmdSearchMoadi));
+        EXPECT_EQ(screen.dcbMelliCode.boundText(), u"P123456"_s);
+        EXPECT_EQ(screen.textMelliCode.text(), u"P123456"_s);
+        EXPECT_EQ(platform.boxes, QStringList());
+    }
+}
+
 // The grid ---------------------------------------------------------------------------------------------------
 
 TEST_F(SalaryScreen, CarryShowsAndDrawsTheWaitPictureBeforeItCopies)
