@@ -135,6 +135,9 @@ void ReportView::stepBar(int action)
 
 void ReportView::fitBars()
 {
+    const qint64 current = m_box.currentLine();
+    const bool wasInView = current >= m_top && current < m_top + m_fitted;
+    m_fitted = linesInView();
     m_box.setPageLines(linesInView());
     const qint64 last = lastTop();
     verticalScrollBar()->setRange(0, static_cast<int>(std::min<qint64>(last, MostPlaces)));
@@ -143,6 +146,8 @@ void ReportView::fitBars()
     horizontalScrollBar()->setPageStep(viewport()->width());
     horizontalScrollBar()->setSingleStep(fontMetrics().averageCharWidth() * 4);
     scrollTo(m_top);
+    if (wasInView)
+        bringIntoView(current);
 }
 
 void ReportView::resizeEvent(QResizeEvent *event)

@@ -64,7 +64,8 @@ private:
     ReportBox &m_box;
     FormWindow &m_window;
     qint64 m_top = 0;
-    int m_widest = 0; ///< of the lines that were in view so far
+    qint64 m_fitted = 0; ///< lines in view when the bars were last fitted; the current one among them stays there
+    int m_widest = 0;    ///< of the lines that were in view so far
     int m_wheeled = 0;
     bool m_stays = false;   ///< what is in view stays, whichever line is current
     QBasicTimer m_dragging; ///< runs while the mouse marks lines beyond the view

@@ -428,6 +428,30 @@ TEST_F(Reports, ALongLineScrollsSidewaysFromTheRight)
     EXPECT_EQ(bar.maximum(), 0) << "the long line is gone";
 }
 
+TEST_F(Reports, ACurrentLineInViewStaysWholeThereWhenTheViewGetsLower)
+{
+    const auto isSeen = [this] { return view().viewport()->rect().contains(view().lineRect(report.currentLine())); };
+    lines = std::make_shared<CountingLines>(100);
+    lines->longLine = 50;
+    report.setLines(lines);
+    report.setCurrentLine(50);
+    QCoreApplication::processEvents();
+    QTRY_VERIFY(view().horizontalScrollBar()->isVisible());
+    EXPECT_TRUE(isSeen()) << "the bar for the long line came when that line was in view";
+    shown.window.resize(600, 300);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isSeen());
+    QFont larger = view().font();
+    larger.setPointSizeF(2 * larger.pointSizeF());
+    view().setFont(larger);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(isSeen());
+    view().verticalScrollBar()->setValue(0);
+    shown.window.resize(600, 250);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(view().topLine(), 0) << "one that the user scrolled away from stays away";
+}
+
 TEST_F(Reports, AShortReportBeginsAtTheRight)
 {
     show(1);
