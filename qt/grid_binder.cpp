@@ -6,6 +6,8 @@
 
 #include <QAbstractTableModel>
 #include <QHeaderView>
+#include <QPainter>
+#include <QScrollBar>
 #include <QStyledItemDelegate>
 #include <QTableView>
 
@@ -64,7 +66,8 @@ private:
 
 namespace {
 
-/// Codes and numbers read from the left, whatever the direction of the table.
+/// Codes and numbers read from the left, whatever the direction of the table. The current cell has an outline in its
+/// row, a thicker one while the grid has the focus.
 class CellDelegate : public QStyledItemDelegate {
 public:
     CellDelegate(const GridModel &model, QObject *parent)
@@ -73,10 +76,29 @@ public:
     {
     }
 
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::paint(painter, option, index);
+        const auto *const view = qobject_cast<const QAbstractItemView *>(option.widget);
+        if (!view || view->currentIndex() != index)
+            return;
+        const bool isMarked = option.state & QStyle::State_Selected;
+        const QColor ink = option.palette.color(isMarked ? QPalette::HighlightedText : QPalette::Highlight);
+        const int width = option.state & QStyle::State_HasFocus ? 2 : 1;
+        const double inset = 1 + width / 2.0;
+        painter->save();
+        painter->setPen(QPen(ink, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(QRectF(option.rect).adjusted(inset, inset, -inset, -inset));
+        painter->restore();
+    }
+
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
     {
         QStyledItemDelegate::initStyleOption(option, index);
+        // The style would mark it with a veil over the text.
+        option->state &= ~QStyle::State_HasFocus;
         if (m_model.column(index.column()).leftToRight) {
             option->direction = Qt::LeftToRight;
             option->displayAlignment = Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter;
@@ -120,11 +142,21 @@ GridBinder::GridBinder(Grid &grid, FormWindow &window, QTableView &widget)
                      [this](int column) { m_window.enter([&] { form().userHead(m_grid, column); }); });
 }
 
-/// There is a current cell whenever there are rows: a screen reader that asks for it must never get none.
+/// There is a current cell whenever there are rows: a screen reader that asks for it must never get none. A table that
+/// has to scroll for it shows its beginning if the cell is seen there, too.
 void GridBinder::showCurrent()
 {
-    if (m_grid.currentRow() >= 0)
-        m_widget->setCurrentIndex(m_model->index(m_grid.currentRow(), m_grid.currentColumn()));
+    if (m_grid.currentRow() < 0)
+        return;
+    const QModelIndex cell = m_model->index(m_grid.currentRow(), m_grid.currentColumn());
+    const QRect place = m_widget->visualRect(cell);
+    const bool isShown = m_widget->isVisible();
+    if (!isShown || place.left() < 0 || place.right() >= m_widget->viewport()->width())
+        m_widget->horizontalScrollBar()->setValue(0);
+    m_widget->setCurrentIndex(cell);
+    // One on a hidden page may yet have another width; it scrolls by itself when it is shown.
+    if (isShown)
+        m_widget->scrollTo(cell);
 }
 
 /// The first rows give the columns their widths, a good many of them; rows that are found later only widen what is too

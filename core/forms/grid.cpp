@@ -58,12 +58,14 @@ QString Grid::currentCell(QStringView field) const
 
 void Grid::setCurrent(int row, int column)
 {
-    if (row < 0 || row >= rowCount() || (row == m_row && column == m_column))
+    if (row < 0 || row >= rowCount())
         return;
+    const bool isOther = row != m_row || column != m_column;
     m_row = row;
     m_column = std::clamp(column, 0, std::max(0, static_cast<int>(m_columns.size()) - 1));
+    // Also for the cell that is current already: its user may have scrolled away from it.
     changed(Aspect::CurrentRow);
-    if (onRowColChange)
+    if (isOther && onRowColChange)
         onRowColChange();
 }
 

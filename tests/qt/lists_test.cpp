@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QHeaderView>
 #include <QListView>
+#include <QScrollBar>
 #include <QTabWidget>
 #include <QTableView>
 
@@ -32,6 +33,14 @@ private:
     int m_count;
 };
 
+std::vector<GridColumn> manyColumns()
+{
+    std::vector<GridColumn> columns;
+    for (int column = 0; column < 30; ++column)
+        columns.push_back({QString::number(column), QString(12, u'ع') + QString::number(column)});
+    return columns;
+}
+
 class ListForm : public TestForm {
 public:
     DataCombo combo{*this, u"combo"_s};
@@ -42,6 +51,7 @@ public:
     TextBox onOne{pageOne, u"onOne"_s};
     Frame pageTwo{tabs, u"pageTwo"_s};
     TextBox onTwo{pageTwo, u"onTwo"_s};
+    Grid gridOnTwo{pageTwo, u"gridOnTwo"_s};
 
     ListForm()
     {
@@ -223,6 +233,65 @@ TEST_F(Lists, SidewaysArrowsWrapRoundTheShownColumns)
     }
     pressKey(shown.input(form.grid), Qt::Key_Right);
     EXPECT_EQ(table().currentIndex().column(), 0);
+}
+
+TEST_F(Lists, TheCurrentCellOfAGridIsOutlinedMostWhereTheFocusIs)
+{
+    look::setUp(*qApp);
+    form.grid.setRows(std::make_shared<CountingRows>(5));
+    form.grid.setCurrent(2, 1);
+    const QRgb line = table().palette().color(QPalette::HighlightedText).rgb();
+    const auto thickness = [&](int column) {
+        const QImage drawn = table().viewport()->grab().toImage();
+        const QRect cell = table().visualRect(table().model()->index(2, column));
+        int count = 0;
+        for (int y = cell.top(); y < cell.top() + 4; ++y)
+            count += drawn.pixel(cell.center().x(), y) == line ? 1 : 0;
+        return count;
+    };
+    form.combo.setFocus();
+    EXPECT_EQ(thickness(0), 0);
+    EXPECT_EQ(thickness(1), 1);
+    form.grid.setFocus();
+    EXPECT_EQ(thickness(0), 0);
+    EXPECT_EQ(thickness(1), 2);
+}
+
+TEST_F(Lists, AGridThatIsBroughtToACellShowsItWholeAndItsBeginningIfItCan)
+{
+    form.grid.setColumns(manyColumns());
+    form.grid.setRows(std::make_shared<CountingRows>(500));
+    const QScrollBar &across = *table().horizontalScrollBar();
+    const auto isSeen = [this] {
+        return table().viewport()->rect().contains(table().visualRect(table().currentIndex()));
+    };
+    form.grid.setCurrent(300, 29);
+    EXPECT_TRUE(isSeen());
+    EXPECT_GT(across.value(), 0);
+    form.grid.setCurrent(2, 1);
+    EXPECT_TRUE(isSeen());
+    EXPECT_EQ(across.value(), 0);
+    form.grid.setCurrent(300, 20);
+    table().scrollToTop();
+    table().horizontalScrollBar()->setValue(0);
+    EXPECT_FALSE(isSeen());
+    form.grid.setCurrent(300, 20);
+    EXPECT_TRUE(isSeen()) << "brought there again";
+}
+
+TEST_F(Lists, AGridThatIsBroughtToACellOnAHiddenPageKeepsToItsBeginning)
+{
+    constexpr int LastAtBeginning = 3;
+    shown.window.resize(1000, 500);
+    QCoreApplication::processEvents();
+    form.gridOnTwo.setColumns(manyColumns());
+    form.gridOnTwo.setRows(std::make_shared<CountingRows>(500));
+    form.gridOnTwo.setCurrent(300, LastAtBeginning);
+    form.tabs.setPage(1);
+    QCoreApplication::processEvents();
+    const auto &table = static_cast<const QTableView &>(*shown.window.widgetFor(form.gridOnTwo));
+    EXPECT_TRUE(table.viewport()->rect().contains(table.visualRect(table.currentIndex())));
+    EXPECT_EQ(table.horizontalScrollBar()->value(), 0);
 }
 
 TEST_F(Lists, AHeadsClickNamesItsColumnAndHiddenColumnsStayHidden)
