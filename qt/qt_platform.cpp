@@ -4,6 +4,7 @@
 #include "core/basic/run_time_error.h"
 #include "core/mdlError.h"
 #include "core/platform/tool_process.h"
+#include "qt/file_dialog.h"
 #include "qt/form_window.h"
 #include "qt/guide_viewer.h"
 #include "qt/kept_size.h"
@@ -14,7 +15,6 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QEventLoop>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QScreen>
@@ -205,11 +205,8 @@ void QtPlatform::showGuide(const QString &form)
 std::optional<QString> QtPlatform::openFileDialog(const QString &folder, const QString &filter)
 {
     look::speakPersian();
-    QFileDialog dialog(foremost(), QString(), nativePath(folder), filter);
-    dialog.setObjectName(u"fileDialog"_s);
+    FileDialog dialog(foremost(), nativePath(folder), filter);
     dialog.setFileMode(QFileDialog::ExistingFile);
-    // The desktop's own dialogue speaks the desktop's language and direction.
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     runDialog(dialog);
     if (dialog.result() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;

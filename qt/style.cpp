@@ -195,6 +195,14 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption *option, 
 void Style::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
                         const QWidget *widget) const
 {
+    if (element == CE_ComboBoxLabel) {
+        // A painter has the program's direction; the text of a box of paths has the box's.
+        painter->save();
+        painter->setLayoutDirection(option->direction);
+        QProxyStyle::drawControl(element, option, painter, widget);
+        painter->restore();
+        return;
+    }
     const auto *const button = qstyleoption_cast<const QStyleOptionButton *>(option);
     if (element != CE_PushButtonLabel || !button) {
         QProxyStyle::drawControl(element, option, painter, widget);

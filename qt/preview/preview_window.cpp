@@ -2,13 +2,13 @@
 #include "qt/preview/preview_window.h"
 
 #include "core/platform/platform.h"
+#include "qt/file_dialog.h"
 #include "qt/look.h"
 #include "qt/preview/page_view.h"
 #include "qt/preview/report_pdf.h"
 #include "qt/qt_platform.h"
 
 #include <QApplication>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -261,12 +261,10 @@ void PreviewWindow::print()
 void PreviewWindow::savePdf()
 {
     look::speakPersian();
-    QFileDialog dialog(this, QString(), m_platform.desktopFolder(), u"*.pdf"_s);
-    dialog.setObjectName(u"fileDialog"_s);
+    FileDialog dialog(this, m_platform.desktopFolder(), u"*.pdf"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(u"pdf"_s);
     dialog.selectFile(m_report.name() + u".pdf"_s);
-    dialog.setOption(QFileDialog::DontUseNativeDialog);
     m_platform.runDialog(dialog);
     if (dialog.result() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
         saveAs(dialog.selectedFiles().constFirst());

@@ -5,6 +5,7 @@
 #include "qt/look.h"
 #include "tests/qt/catalogue_fixture.h"
 
+#include <QComboBox>
 #include <QPainter>
 
 #include <cmath>
@@ -163,6 +164,20 @@ TEST(Look, ACaptionWithoutRoomEndsInDots)
                      cut);
     painter.end();
     EXPECT_EQ(pictureOf(payer, width).convertToFormat(QImage::Format_RGB32), plain);
+}
+
+TEST(Look, APathInABoxThatReadsFromTheLeftBeginsWithItsSlash)
+{
+    look::setUp(*qApp);
+    const auto drawn = [](const QString &path) {
+        QComboBox box;
+        box.setLayoutDirection(Qt::LeftToRight);
+        box.addItem(path);
+        box.resize(300, 30);
+        return box.grab().toImage();
+    };
+    EXPECT_TRUE(drawn(u"/srv/pay/"_s) == drawn(u"\u200E/srv/pay/\u200E"_s));
+    EXPECT_FALSE(drawn(u"/srv/pay/"_s) == drawn(u"srv/pay//"_s));
 }
 
 TEST(Look, WhatWasEncodedReadsFromTheLeft)

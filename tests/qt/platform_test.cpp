@@ -2,10 +2,16 @@
 // Boxes, modal runs and the end of the program.
 #include "tests/qt/window_fixture.h"
 
+#include <QComboBox>
+#include <QFile>
+#include <QFileDialog>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTemporaryDir>
 #include <QTimer>
+#include <QTreeView>
 
 namespace zrv::test {
 
@@ -100,6 +106,34 @@ TEST(MessageBox, EnterAnswersYesAndAPlainBoxAnswersOk)
                            pressKey(box, Qt::Key_Escape);
                        }),
               Answer::Ok);
+}
+
+TEST(FileDialog, PathsReadFromTheLeftAndKindsArePersianAndNothingScrollsSideways)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"140501"_s));
+    for (const QString &name : {u"WH140501.TXT"_s, u"noted"_s}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    ForgetfulPlatform platform;
+    QStringList kinds;
+    QTimer::singleShot(0, qApp, [&] {
+        auto *const dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        EXPECT_EQ(dialog->findChild<QComboBox *>(u"lookInCombo"_s)->layoutDirection(), Qt::LeftToRight);
+        EXPECT_EQ(dialog->findChild<QLineEdit *>(u"fileNameEdit"_s)->layoutDirection(), Qt::LeftToRight);
+        EXPECT_EQ(dialog->layoutDirection(), Qt::RightToLeft);
+        const auto &view = *dialog->findChild<QTreeView *>(u"treeView"_s);
+        QTRY_COMPARE(view.model()->rowCount(view.rootIndex()), 3);
+        for (int row = 0; row < 3; ++row)
+            kinds += view.model()->index(row, 2, view.rootIndex()).data().toString();
+        QTest::qWait(50);
+        EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0);
+        dialog->reject();
+    });
+    EXPECT_EQ(platform.openFileDialog(folder.path(), u"*"_s), std::nullopt);
+    EXPECT_EQ(kinds, (QStringList{u"پوشه"_s, u"فايل"_s, u"فايل TXT"_s}));
 }
 
 TEST(ModalRun, ItReturnsWhenTheFormCloses)
