@@ -12,7 +12,10 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPainter>
 #include <QScopedValueRollback>
+#include <QStyleOptionFrame>
+#include <QToolTip>
 
 namespace zrv {
 
@@ -126,6 +129,52 @@ void FieldEdit::restore(void (QLineEdit::*undoOrRedo)())
 {
     const QScopedValueRollback restoring(m_restoring, true);
     (this->*undoOrRedo)();
+}
+
+// A text too long for its field -----------------------------------------------------------------------------------
+
+QRect FieldEdit::textRoom() const
+{
+    constexpr int Beside = 2; // kept free by the widget on either side of its text
+    QStyleOptionFrame field;
+    initStyleOption(&field);
+    const QRect inside = style()->subElementRect(QStyle::SE_LineEditContents, &field, this);
+    return inside.marginsRemoved(textMargins()).adjusted(Beside, 0, -Beside, 0);
+}
+
+bool FieldEdit::isCut() const
+{
+    return !m_edit.hasFocus() && echoMode() == QLineEdit::Normal
+           && fontMetrics().horizontalAdvance(text()) >= textRoom().width();
+}
+
+void FieldEdit::paintEvent(QPaintEvent *event)
+{
+    if (!isCut()) {
+        QLineEdit::paintEvent(event);
+        return;
+    }
+    QPainter painter(this);
+    painter.setLayoutDirection(layoutDirection());
+    QStyleOptionFrame field;
+    initStyleOption(&field);
+    style()->drawPrimitive(QStyle::PE_PanelLineEdit, &field, &painter, this);
+    painter.setPen(palette().color(QPalette::Text));
+    const QRect room = textRoom();
+    painter.drawText(room, static_cast<int>(alignment()) | Qt::TextSingleLine,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, room.width()));
+}
+
+bool FieldEdit::event(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip || !isCut())
+        return QLineEdit::event(event);
+    // Screens give some boxes their own text for a tip.
+    const QString tip = m_edit.toolTip();
+    const bool tellsMore = !tip.isEmpty() && tip != text();
+    QToolTip::showText(static_cast<const QHelpEvent *>(event)->globalPos(),
+                       tellsMore ? QString(text() + u'\n' + tip) : text(), this);
+    return true;
 }
 
 // Events --------------------------------------------------------------------------------------------------------

@@ -12,9 +12,10 @@ namespace zrv {
 class FormWindow;
 
 /// The line in which a text box or a combo box is edited. The text is the control's: a letter, a paste, a drop, a
-/// middle click and an input method's commit all go to the form, through its key filter, and come back as the
-/// control's new text. Only what takes text away or brings it back (cut, delete, undo, redo) is the widget's own work
-/// and is told to the form afterwards.
+/// middle click and an input method's commit all go to the form, through its key filter, and come back as the control's
+/// new text. Only what takes text away or brings it back (cut, delete, undo, redo) is the widget's own work and is told
+/// to the form afterwards. Where nobody types, a text too long for the line ends in dots, and the tooltip tells it in
+/// full.
 class FieldEdit : public QLineEdit {
 public:
     FieldEdit(Edit &edit, FormWindow &window, QWidget *parent);
@@ -31,6 +32,8 @@ public:
     [[nodiscard]] static bool keepsKey(const QKeyEvent &event);
 
 protected:
+    bool event(QEvent *event) override;
+    void paintEvent(QPaintEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void focusOutEvent(QFocusEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -46,6 +49,8 @@ private:
     void textEditedByWidget();
     void selectionMovedByWidget();
     void redrawBox();
+    [[nodiscard]] QRect textRoom() const;
+    [[nodiscard]] bool isCut() const;
 
     Edit &m_edit;
     FormWindow &m_window;

@@ -9,6 +9,7 @@
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolTip>
 
 namespace zrv::test {
 
@@ -141,6 +142,47 @@ TEST_F(Lists, ALongTextOfAComboThatIsLeftShowsHowItBegins)
     EXPECT_EQ(shown.form.combo.selStart(), 100) << "what the form knows of the text stays";
     shown.form.combo.setText(QString(90, u'\u0628'));
     EXPECT_EQ(line.cursorPosition(), 0) << "set by the program, it begins there, too";
+}
+
+TEST_F(Lists, ALongTextOfAComboThatIsLeftEndsInDotsAndIsToldInFull)
+{
+    // Of tall letters, that nothing but dots stands low at the end is seen above them.
+    const QString tall(100, u'\u0627');
+    shown.form.combo.setItems({{tall, u"01"_s}, {u"ا"_s, u"02"_s}});
+    shown.form.combo.setBoundText(u"01"_s);
+    QLineEdit &line = shown.line(shown.form.combo);
+    const auto endsHigh = [&line] {
+        const QImage drawn = line.grab().toImage();
+        const QRgb ground = drawn.pixel(drawn.width() / 2, 3);
+        const int dots = line.fontMetrics().horizontalAdvance(u'…');
+        for (int x = 2; x < 2 + dots; ++x)
+            for (int y = 3; y < drawn.height() / 2; ++y)
+                if (drawn.pixel(x, y) != ground)
+                    return true;
+        return false;
+    };
+    const auto told = [&line] {
+        QHelpEvent help(QEvent::ToolTip, {5, 5}, line.mapToGlobal(QPoint(5, 5)));
+        QApplication::sendEvent(&line, &help);
+        const QString text = QToolTip::isVisible() ? QToolTip::text() : QString();
+        QToolTip::hideText();
+        while (QToolTip::isVisible())
+            QTest::qWait(10);
+        return text;
+    };
+    shown.form.combo.setFocus();
+    EXPECT_TRUE(endsHigh()) << "who types sees all letters that there is room for";
+    EXPECT_EQ(told(), QString());
+    shown.form.grid.setFocus();
+    EXPECT_FALSE(endsHigh());
+    EXPECT_EQ(told(), tall);
+    shown.form.combo.setToolTip(tall);
+    EXPECT_EQ(told(), tall) << "once";
+    shown.form.combo.setToolTip(u"شرح"_s);
+    EXPECT_EQ(told(), tall + u"\nشرح"_s);
+    shown.form.combo.setToolTip({});
+    shown.form.combo.setBoundText(u"02"_s);
+    EXPECT_EQ(told(), QString()) << "a text that is seen whole";
 }
 
 TEST_F(Lists, AWheelOverAClosedComboChangesNothing)
