@@ -56,6 +56,8 @@ Seen lookAt(const Form &form)
             seen[name + u".checked"] = flag(box->isChecked());
         } else if (const auto *option = dynamic_cast<const OptionButton *>(control)) {
             seen[name + u".checked"] = flag(option->isChecked());
+        } else if (const auto *tabs = dynamic_cast<const Tabs *>(control)) {
+            seen[name + u".page"] = QString::number(tabs->page());
         } else if (const auto *report = dynamic_cast<const ReportBox *>(control)) {
             seen[name + u".line"] = QString::number(report->currentLine());
             seen[name + u".marked"] = QString::number(std::abs(report->anchorLine() - report->currentLine()));
@@ -309,6 +311,8 @@ const std::vector<Line> Lines{
     {u"در همه فرم‌ها", u"Escape",          [] { return stage("CodeNew", u"txtSDesc"); },           {{Qt::Key_Escape, u"txtSCode.enabled"_s}}},
     {u"در همه فرم‌ها", u"Tab و Shift+Tab", [] { return card(u"next"); },                           {{Qt::Key_Tab, u"focus"_s}, {Shift | Qt::Key_Backtab, u"focus"_s}}},
     {u"در همه فرم‌ها", u"F6",              [] { return stage("SummaryFound", u"txtKharejiNo"); },       {{Qt::Key_F6, u"focus"_s}}},
+    {u"در همه فرم‌ها", u"Ctrl+Tab و Ctrl+Shift+Tab", [] { return screen("frmReadTextFiles", u"SSTab1"); },
+     {{Ctrl | Qt::Key_Tab, u"SSTab1.page"_s}, {Ctrl | Shift | Qt::Key_Backtab, u"SSTab1.page"_s}}},
     {u"در همه فرم‌ها", u"Alt با يک حرف",   [] { return card(u"field"); },                          {{letter(u'د', Alt), u"clicks"_s}, {Alt | Qt::Key_R, u"clicks"_s}}},
     {u"در همه فرم‌ها", u"Space",           [] { return card(u"plain"); },                          {{Qt::Key_Space, u"clicks"_s}}},
     {u"در همه فرم‌ها", u"Space",           [] { return card(u"check"); },                          {{Qt::Key_Space, u"check.checked"_s}}},
