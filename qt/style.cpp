@@ -17,6 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr double Radius = 4;
+constexpr int ArrowRoom = 24; ///< at the trailing end of a combo box
 
 /// A rectangle with round corners, drawn inset from the edge of its room.
 void paintRounded(QPainter &painter, const QRect &room, double inset, double radius, const QPen &line,
@@ -127,6 +128,15 @@ void paintArrow(QPainter &painter, const QRect &room, const QColor &color)
     painter.restore();
 }
 
+/// A scroll bar's handle, darker than the groove in which it runs; while it is dragged in the accent.
+void paintHandle(QPainter &painter, const QStyleOptionSlider &bar, const QRect &room)
+{
+    constexpr int Inset = 3;
+    const bool dragged = bar.state & QStyle::State_Sunken && bar.activeSubControls & QStyle::SC_ScrollBarSlider;
+    paintRounded(painter, room, Inset, Radius, Qt::NoPen,
+                 bar.palette.color(dragged ? QPalette::Highlight : QPalette::Shadow));
+}
+
 } // namespace
 
 Style::Style()
@@ -229,6 +239,15 @@ void Style::drawControl(ControlElement element, const QStyleOption *option, QPai
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option, QPainter *painter,
                                const QWidget *widget) const
 {
+    const auto *const bar = qstyleoption_cast<const QStyleOptionSlider *>(option);
+    if (control == CC_ScrollBar && bar) {
+        QStyleOptionSlider rest(*bar);
+        rest.subControls &= ~SC_ScrollBarSlider;
+        QProxyStyle::drawComplexControl(control, &rest, painter, widget);
+        if (bar->subControls & SC_ScrollBarSlider)
+            paintHandle(*painter, *bar, subControlRect(control, bar, SC_ScrollBarSlider, widget));
+        return;
+    }
     const auto *const combo = qstyleoption_cast<const QStyleOptionComboBox *>(option);
     if (control != CC_ComboBox || !combo || !combo->editable) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -239,16 +258,20 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     const bool focused = combo->state & State_Enabled
                          && (combo->state & State_HasFocus || (box && box->lineEdit() && box->lineEdit()->hasFocus()));
     paintBody(*painter, *combo, combo->palette.color(QPalette::Base), focused);
-    const int side = combo->rect.height();
-    const bool mirrored = combo->direction == Qt::RightToLeft;
-    const QRect arrow(mirrored ? combo->rect.left() : combo->rect.right() - side, combo->rect.top(), side, side);
-    paintArrow(*painter, arrow, combo->palette.color(QPalette::Text));
+    paintArrow(*painter,
+               alignedRect(combo->direction, Qt::AlignTrailing, {ArrowRoom, combo->rect.height()}, combo->rect),
+               combo->palette.color(QPalette::Text));
 }
 
 QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex *option, SubControl part,
                             const QWidget *widget) const
 {
     QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
+        // No letter runs under the arrow.
+        const QRect beside = option->rect.adjusted(0, 0, -ArrowRoom, 0);
+        return rect & visualRect(option->direction, option->rect, beside);
+    }
     const auto *const group = qstyleoption_cast<const QStyleOptionGroupBox *>(option);
     if (control != CC_GroupBox || !group)
         return rect;

@@ -7,6 +7,8 @@
 
 #include <QComboBox>
 #include <QPainter>
+#include <QScrollBar>
+#include <QStyleOption>
 
 #include <cmath>
 
@@ -90,6 +92,54 @@ TEST(Look, TheFocusRingStandsOutFromTheFieldAndTheWindow)
     const QPalette palette = look::palette();
     for (const Color back : {color::Window, color::Field, color::KeyField, color::DataField, color::RequiredEmpty})
         EXPECT_GE(contrast(palette.color(QPalette::Highlight), QColor(back)), 3.0);
+}
+
+TEST(Look, AScrollBarsHandleStandsOutDarkFromItsGroove)
+{
+    for (const Qt::Orientation orientation : {Qt::Vertical, Qt::Horizontal}) {
+        QScrollBar bar(orientation);
+        bar.setPalette(look::palette());
+        bar.setRange(0, 100);
+        bar.setPageStep(100);
+        bar.resize(orientation == Qt::Vertical ? QSize(14, 300) : QSize(300, 14));
+        QStyleOptionSlider option;
+        option.initFrom(&bar);
+        option.orientation = orientation;
+        option.subControls = QStyle::SC_All;
+        option.maximum = bar.maximum();
+        option.pageStep = bar.pageStep();
+        const auto middleOf = [&](QStyle::SubControl part) {
+            return bar.style()->subControlRect(QStyle::CC_ScrollBar, &option, part, &bar).center();
+        };
+        const QImage seen = bar.grab().toImage();
+        const QColor handle = seen.pixelColor(middleOf(QStyle::SC_ScrollBarSlider));
+        const QColor groove = seen.pixelColor(middleOf(QStyle::SC_ScrollBarAddPage));
+        EXPECT_LT(light(handle), light(groove));
+        EXPECT_GE(contrast(handle, groove), 3.0);
+    }
+}
+
+TEST(Look, NoLetterRunsUnderTheArrowOfACombo)
+{
+    // The screens run from right to left: the arrow stands at the left.
+    QComboBox box;
+    box.setEditable(true);
+    box.resize(120, 30);
+    QStyleOptionComboBox option;
+    option.initFrom(&box);
+    option.editable = true;
+    const int end =
+        box.style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &box).left();
+    box.setPalette(look::palette());
+    const QImage seen = box.grab().toImage();
+    int arrowEnd = 0;
+    constexpr int Frame = 4;
+    for (int x = Frame; x < seen.width() - Frame; ++x)
+        for (int y = Frame; y < seen.height() - Frame; ++y)
+            if (contrast(seen.pixelColor(x, y), box.palette().color(QPalette::Base)) > 3)
+                arrowEnd = x;
+    ASSERT_GT(arrowEnd, 0);
+    EXPECT_GE(end, arrowEnd + 4);
 }
 
 namespace {
