@@ -23,6 +23,21 @@ void layOutPages(LayoutBuilder &b)
     // clang-format on
 }
 
+QLayout *salaryFile(LayoutBuilder &b)
+{
+    // clang-format off
+    QLayout *const lines = b.column({
+        b.line({u"cmdHogogShow", u"cmdCheckHogogStructure", b.room()}),
+        b.line({u"chkTowFirstLineAreChecked", b.room()}),
+        b.line({u"chkDisplayOnlyHogogErrors", b.room()}),
+        b.line({u"chkCreatHogogErrorLogFile", b.wide(b.value(u"LabelHogogTextErrorLogPath")), u"cmdShowErrorLogFile"}),
+    });
+    // clang-format on
+    // Close to their frame, so that a display of 768 lines shows the screen whole.
+    lines->setContentsMargins(9, 3, 9, 3);
+    return lines;
+}
+
 } // namespace
 
 void layOutReadTextFiles(LayoutBuilder &b)
@@ -35,11 +50,7 @@ void layOutReadTextFiles(LayoutBuilder &b)
             {u"lblHogogPath", b.line({b.wide(b.value(u"LabelHogogPath")), b.small(u"cmdShowHogogTextFilePath")})},
             {u"lblKholPath", b.line({b.wide(b.value(u"LabelKholPath")), b.small(u"cmdShowKholTextFilePath")})},
         })),
-        b.inside(u"framHogog", b.column({
-            b.line({u"cmdHogogShow", u"cmdCheckHogogStructure", u"cmdShowErrorLogFile", b.room()}),
-            b.line({u"chkTowFirstLineAreChecked", b.room(), u"chkCreatHogogErrorLogFile"}),
-            b.line({u"chkDisplayOnlyHogogErrors", b.wide(b.value(u"LabelHogogTextErrorLogPath"))}),
-        })),
+        b.inside(u"framHogog", salaryFile(b)),
         b.inside(u"framKhol", b.line({u"cmdKholShow", u"cmdCheckKholStructure", u"chkDisplayOnlyKholErrors", b.room()})),
         b.wide(u"SSTab1"),
         b.inside(u"PPICWaitingMessage", b.line({b.wide(b.note(u"LabelWaitingMessage")), u"LabelWaitingShare", u"cmdCancel"})),

@@ -127,8 +127,7 @@ constexpr Exception Exceptions[] = {
     // Where somebody lives comes before his work; an exemption before the country of a foreigner.
     {u"txtHomeAddress", u"dcbRasteh"}, {u"txtHomeAddress", u"dcbEstekhdamType"}, {u"txtHomeAddress", u"txtInsuNo"},
     {u"dcbShakhsMoafCode", u"dcbKeshvarCode"},
-    // What a check is asked for comes before its result; the files of the month before what is looked up.
-    {u"chkCreatHogogErrorLogFile", u"cmdShowErrorLogFile"},
+    // The files of the month come before what is looked up.
     {u"cmdCreatTextFiles", u"cmdSrcMoadi"}, {u"cmdReadTextFiles", u"cmdReports"},
 };
 // clang-format on
