@@ -10,16 +10,29 @@ namespace {
 
 constexpr int CaptionLetters = 36;
 
+/// Cells close to each other: on the narrowest display of one line, a payee's name takes what they leave.
+QLayout *closeLine(LayoutBuilder &b, const std::vector<LayoutBuilder::Cell> &cells)
+{
+    QLayout *const line = b.line(cells);
+    line->setContentsMargins(3, 9, 3, 9);
+    line->setSpacing(4);
+    return line;
+}
+
 QLayout *keys(LayoutBuilder &b)
 {
+    // clang-format off
     return b.line({
-        b.inside(u"framKey",
-                 b.line({u"lblTaxYear", b.narrow(u"txtTaxYear", 5), u"lblTaxMonth", b.narrow(u"dcbTaxMonth", 11),
-                         b.narrow(u"cmdKeyOk", 7), b.narrow(u"cmdKeyReturn", 7)})),
-        b.wide(b.inside(u"framKey1", b.line({u"lblMelliCode", b.wide(b.noLess(u"dcbMelliCode", 16)),
-                                             b.narrow(u"textMelliCode", 11), b.narrow(u"cmdSearchMoadi", 3),
-                                             b.narrow(u"cmdKeyOk1", 7), b.narrow(u"cmdKeyReturn1", 7)}))),
+        b.inside(u"framKey", closeLine(b, {
+            u"lblTaxYear", b.narrow(u"txtTaxYear", 5), u"lblTaxMonth", b.narrow(u"dcbTaxMonth", 12),
+            b.narrow(u"cmdKeyOk", 7), b.narrow(u"cmdKeyReturn", 9),
+        })),
+        b.wide(b.inside(u"framKey1", closeLine(b, {
+            u"lblMelliCode", b.wide(b.noLess(u"dcbMelliCode", 16)), b.narrow(u"textMelliCode", 11),
+            b.narrow(u"cmdSearchMoadi", 3), b.narrow(u"cmdKeyOk1", 7), b.narrow(u"cmdKeyReturn1", 9),
+        }))),
     });
+    // clang-format on
 }
 
 /// What was paid in cash, and below it what is worked out of everything.
@@ -56,7 +69,8 @@ QLayout *givenAndSaved(LayoutBuilder &b)
         }, CaptionLetters)),
         b.room(),
         b.words(u"lblFinalTax", CaptionLetters),
-        b.line({b.wide(u"lbDVaziateMoafiat"), b.buttons({u"cmdDataOk", u"cmdDataReturn"})}),
+        u"lbDVaziateMoafiat",
+        b.buttons({u"cmdDataOk", u"cmdDataReturn"}),
     });
     // clang-format on
 }

@@ -190,11 +190,13 @@ QLayout *LayoutBuilder::amounts(std::initializer_list<std::pair<const char16_t *
     constexpr int AmountLetters = 15;
     constexpr int ListLetters = 24;
     const int letter = m_window.fontMetrics().horizontalAdvance(u'0');
+    // Where there is room, fewer captions wrap.
+    if (!m_narrow)
+        lettersOfCaption += 4;
     // An amount stands in the last of three columns; a list takes the middle one as well.
     auto *const grid = new QGridLayout;
     grid->setVerticalSpacing(2);
     grid->setHorizontalSpacing(4);
-    grid->setContentsMargins(8, 2, 8, 6);
     grid->setColumnStretch(0, 1);
     grid->setColumnMinimumWidth(1, letter * (ListLetters - AmountLetters) - grid->horizontalSpacing());
     int row = 0;
@@ -210,7 +212,12 @@ QLayout *LayoutBuilder::amounts(std::initializer_list<std::pair<const char16_t *
         ++row;
     }
     grid->setRowStretch(row, 1);
-    return grid;
+    // Spare width stands beside the fields, not between a caption and its field.
+    auto *const box = new QHBoxLayout;
+    box->setContentsMargins(8, 2, 8, 6);
+    box->addLayout(grid);
+    box->addStretch(1);
+    return box;
 }
 
 LayoutBuilder::Cell LayoutBuilder::narrow(const char16_t *field, int letters)
