@@ -347,6 +347,8 @@ void FormWindow::fit()
     if (wanted.height() + bars > room.height()) {
         scroll();
         wanted.rwidth() += m_scroll->verticalScrollBar()->sizeHint().width();
+    } else {
+        wanted.setHeight(std::min(wanted.height() + m_spare, room.height() - bars));
     }
     resize((wanted + QSize(0, bars)).boundedTo(room));
     layout()->activate();

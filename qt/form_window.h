@@ -64,6 +64,9 @@ public:
     void captionChanged() override;
     void closed() override;
 
+    /// The height that the window takes beyond its need when it opens, as far as its display has it.
+    void wishHeight(int spare) { m_spare = spare; }
+
     /// Shows the window over its parent, or in the middle of the display, in the size in which its user left it.
     void open();
     /// Puts Qt's focus where the form has it, unless a menu or a list is open over the window.
@@ -92,6 +95,7 @@ private:
     QMenuBar *m_menuBar = nullptr;
     QStatusBar *m_statusBar = nullptr;
     std::optional<KeptSize> m_keptSize;
+    int m_spare = 0; ///< see wishHeight
     const Control *m_typingIn = nullptr;
     bool m_leaving = false;
     std::unordered_map<const Control *, std::unique_ptr<Binder>> m_binders;

@@ -13,8 +13,10 @@
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QScreen>
+#include <QTableView>
 
 #include <algorithm>
 
@@ -265,6 +267,8 @@ LayoutBuilder::Cell LayoutBuilder::browse(const char16_t *grid, Cells extra)
     // A grid takes what is left, and stays readable where little is.
     QWidget *const rows = widget(QString::fromUtf16(grid));
     rows->setMinimumHeight(m_window.fontMetrics().height() * 9 / 2);
+    // Where there is much, it opens with some eight rows instead of two.
+    m_window.wishHeight(6 * static_cast<QTableView *>(rows)->verticalHeader()->defaultSectionSize());
     // Where lines wrap, a height is reckoned that an ignored one would be missing from.
     rows->setSizePolicy(QSizePolicy::Expanding, m_narrow ? QSizePolicy::Expanding : QSizePolicy::Ignored);
     return inside(u"framBrows", column({line(head), search, wide(grid)}));

@@ -5,6 +5,7 @@
 #include "tests/qt/catalogue_fixture.h"
 
 #include <QAbstractButton>
+#include <QHeaderView>
 #include <QLayout>
 #include <QMenu>
 #include <QScreen>
@@ -12,6 +13,7 @@
 #include <QScrollBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTableView>
 
 #include <array>
 #include <set>
@@ -126,6 +128,33 @@ TEST_P(LayoutOf, EveryButtonBearsItsWholeCaption)
         if (control->kind() == ControlKind::Button) {
             EXPECT_EQ(Mnemonics::captionOf(*qobject_cast<QAbstractButton *>(window->widgetFor(*control))),
                       static_cast<const Button *>(control)->caption());
+        }
+}
+
+TEST_P(LayoutOf, NoCaptionTouchesTheEdgeOfItsButton)
+{
+    window->open();
+    constexpr int Least = 5;
+    for (const Control *control : screen->controls()) {
+        const auto *const button = qobject_cast<QAbstractButton *>(
+            control->kind() == ControlKind::Button ? window->widgetFor(*control) : nullptr);
+        if (!button || !button->isVisible())
+            continue;
+        const int caption = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+        EXPECT_GE(button->width(), caption + 2 * Least) << qPrintable(control->name());
+    }
+}
+
+TEST_P(LayoutOf, TheGridOfARecordScreenOpensWithSomeEightRowsWhereTheDisplayHasThem)
+{
+    window->open();
+    QCoreApplication::processEvents();
+    const Control *const around = screen->find(QStringLiteral("framBrows"));
+    if (!around || window->height() >= KeptSize::room(*window).height())
+        return;
+    for (const auto *grid : window->widgetFor(*around)->findChildren<QTableView *>())
+        if (grid->isVisible()) {
+            EXPECT_GE(grid->viewport()->height(), 7 * grid->verticalHeader()->defaultSectionSize());
         }
 }
 
