@@ -230,8 +230,10 @@ void BrowsePanel::cmdCancel_Search_Click()
 {
     ArrangeSearchBar(false, m_screen);
     PicOperation.setEnabled(true);
-    // The bar that had the focus is gone; the rows are what the user looks at next.
-    grid.setFocus();
+    // Where the bar had the focus it has gone with it; the rows are what the user looks at next.
+    const Control *const active = m_screen.activeControl();
+    if (!active || !active->isReachable())
+        grid.setFocus();
     fill();
 }
 

@@ -11,7 +11,7 @@ using namespace Qt::Literals::StringLiterals;
 struct BrowseColumn {
     QString field; ///< name in the result
     QString caption;
-    QString format = {};      ///< "#,##0" for money, "##/##/##" for dates
+    QString format = {};      ///< "#,##0" for money, " ##/##/## " for dates
     bool leftToRight = false; ///< codes and numbers
     QString expression = {};  ///< what the field is in a condition; empty when it is the field itself
     QString sortedBy = {};    ///< what rows are sorted by; empty when it is what the field is in a condition

@@ -295,11 +295,8 @@ void frmKarkonan::AutoSearch()
     for (const QStringView column : {u"Name", u"Family"})
         if (const QString text = fieldOf(column).text(); !text.isEmpty())
             clauses += column + u" LIKE "_s + quoted(QString(u'%' + text + u'%'));
-    if (clauses.isEmpty())
-        FillGrid();
-    else
-        browse.show(payeeSelect() + u" WHERE "_s + clauses.join(u" AND "),
-                    browse.OptNormal.isChecked() ? QString() : UsualOrder);
+    browse.show(payeeSelect() + (clauses.isEmpty() ? QString() : u" WHERE "_s + clauses.join(u" AND ")),
+                browse.OptNormal.isChecked() ? QString() : UsualOrder);
 }
 
 void frmKarkonan::chkAutoSearch_Click()

@@ -7,7 +7,7 @@ namespace zrv {
 
 namespace {
 
-constexpr QStringView DatePicture = u"##/##/##";
+constexpr QStringView DatePicture = u" ##/##/## ";
 
 struct PayeeColumn {
     QStringView field;

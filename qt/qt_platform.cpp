@@ -43,7 +43,34 @@ QSettings userSettings()
 
 } // namespace
 
-QtPlatform::QtPlatform() = default;
+/// Hears when the system asks the whole program to end, as at the end of its user's session. Qt would close window after
+/// window as their user does, and wait at the first question.
+class QtPlatform::SystemsEnd : public QObject {
+public:
+    explicit SystemsEnd(QtPlatform &platform)
+        : m_platform(platform)
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (object != qApp || event->type() != QEvent::Quit)
+            return false;
+        m_platform.endWithTheSystem();
+        return true;
+    }
+
+private:
+    QtPlatform &m_platform;
+};
+
+QtPlatform::QtPlatform()
+    : m_systemsEnd(std::make_unique<SystemsEnd>(*this))
+{
+}
+
 QtPlatform::~QtPlatform() = default;
 
 // Windows -------------------------------------------------------------------------------------------------------
@@ -59,6 +86,9 @@ void QtPlatform::runModal(Form &form)
         ~Leave() { windows.pop_back(); }
     } const leave{m_windows};
     window.open();
+    // The login, whose details of the user are nobody's business any more.
+    if (window.windowType() == Qt::Window && window.parentWidget())
+        window.parentWidget()->hide();
     form.activate();
     window.syncFocus();
     if (form.isOpen() && !isEnding())
@@ -160,6 +190,16 @@ void QtPlatform::preview(const Report &report)
 void QtPlatform::waitWhileOpen(PreviewWindow &window)
 {
     waitUntil([&window] { return !window.isVisible(); });
+}
+
+/// Screen after screen is left without a question. One that is in the midst of something goes on to its next box or
+/// to its end.
+void QtPlatform::endWithTheSystem()
+{
+    for (auto window = m_windows.rbegin(); window != m_windows.rend() && !isEnding(); ++window)
+        enter([&] { (*window)->form().unload(UnloadMode::SystemShutdown); });
+    if (!isEnding())
+        enter([] { throw ProgramEnd{}; });
 }
 
 void QtPlatform::yield()

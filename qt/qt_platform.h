@@ -12,6 +12,7 @@
 
 #include <exception>
 #include <functional>
+#include <memory>
 #include <vector>
 
 class QDialog;
@@ -95,7 +96,11 @@ protected:
 private:
     friend class FormWindow;
     friend class PreviewWindow;
+    class SystemsEnd;
 
+    void endWithTheSystem();
+
+    std::unique_ptr<SystemsEnd> m_systemsEnd;
     std::vector<FormWindow *> m_windows; ///< open ones, the topmost last
     PreviewWindow *m_preview = nullptr;
     std::vector<QEventLoop *> m_loops; ///< running ones, the innermost last

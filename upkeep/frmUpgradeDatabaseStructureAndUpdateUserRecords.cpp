@@ -4,9 +4,8 @@
 #include "core/kept_copies.h"
 #include "core/store/recordset.h"
 #include "core/store/store_copy.h"
-#include "upkeep/base_data_steps.h"
-#include "upkeep/column_steps.h"
 #include "upkeep/frmUpgradeZRVtbKarkonan.h"
+#include "upkeep/mdlUpgrades.h"
 
 #include <QDir>
 

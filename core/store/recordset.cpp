@@ -8,6 +8,7 @@
 #include "core/store/store_file.h"
 
 #include <sqlite3.h>
+#include <vector>
 
 namespace zrv {
 
@@ -28,6 +29,10 @@ dialect::Query translated(const QString &select, StoreFile &file)
 
 } // namespace
 
+struct FreeCell {
+    void operator()(sqlite3_value *cell) const { sqlite3_value_free(cell); }
+};
+
 struct Recordset::Cursor {
     Cursor(std::shared_ptr<StoreFile> openFile, const QString &select)
         : file(std::move(openFile))
@@ -35,31 +40,61 @@ struct Recordset::Cursor {
         , statement(file->prepare(query.sql))
     {
         codeTables = bindCodeTables(statement.get(), query.codeTables);
-        next();
+        step();
+        while (takenRows < TakenRows && !isOver) {
+            take();
+            step();
+        }
+    }
+
+    void step()
+    {
+        isOver = !file->step(statement);
+        if (isOver)
+            sqlite3_reset(statement.get()); // the read lock isn't kept longer than the rows are
+    }
+
+    void take()
+    {
+        for (int column = 0; column < int(query.columns.size()); ++column)
+            taken.emplace_back(sqlite3_value_dup(sqlite3_column_value(statement.get(), column)));
+        ++takenRows;
     }
 
     void next()
     {
-        eof = !file->step(statement);
-        if (eof)
-            sqlite3_reset(statement.get()); // the read lock isn't kept longer than the rows are
+        if (row < takenRows)
+            ++row;
+        else
+            step();
     }
 
-    /// Where a row is read: the statement, if it stands on a row and has the column.
-    sqlite3_stmt *row(int column) const
+    [[nodiscard]] bool eof() const { return row == takenRows && isOver; }
+
+    /// A cell of the row that it stands on, if it stands on one and has the column.
+    [[nodiscard]] sqlite3_value *cell(int column) const
     {
         if (column < 0 || column >= int(query.columns.size()))
             throw RunTimeError(NoSuchColumn, u"فيلد شماره "_s + QString::number(column) + u" در نتيجه وجود ندارد"_s);
-        if (eof)
+        if (eof())
             throw RunTimeError(NoCurrentRow, u"رکورد جاري وجود ندارد"_s);
-        return statement.get();
+        if (row == takenRows)
+            return sqlite3_column_value(statement.get(), column);
+        return taken[row * query.columns.size() + std::size_t(column)].get();
     }
+
+    /// So many rows are taken at once: who has a payer or a payee in hand, and perhaps a box before him, keeps nobody
+    /// from the store.
+    static constexpr std::size_t TakenRows = 4;
 
     std::shared_ptr<StoreFile> file;
     dialect::Query query;
     CodeTables codeTables; ///< before the statement, which must not outlive them
     PreparedStatement statement;
-    bool eof = false;
+    std::vector<std::unique_ptr<sqlite3_value, FreeCell>> taken; ///< the first rows' cells
+    std::size_t takenRows = 0;
+    std::size_t row = 0; ///< the current one; behind those that were taken the statement stands on it
+    bool isOver = false; ///< the statement has no more rows
 };
 
 Recordset::Recordset(const Connection &connection, const QString &select)
@@ -73,12 +108,12 @@ Recordset &Recordset::operator=(Recordset &&) noexcept = default;
 
 bool Recordset::eof() const
 {
-    return m_cursor->eof;
+    return m_cursor->eof();
 }
 
 void Recordset::moveNext()
 {
-    m_cursor->row(0);
+    (void)m_cursor->cell(0);
     m_cursor->next();
 }
 
@@ -94,14 +129,14 @@ QString Recordset::columnName(int column) const
 
 Value Recordset::value(int column) const
 {
-    sqlite3_stmt *row = m_cursor->row(column);
-    switch (sqlite3_column_type(row, column)) {
+    sqlite3_value *cell = m_cursor->cell(column);
+    switch (sqlite3_value_type(cell)) {
     case SQLITE_NULL:
         return {};
     case SQLITE_INTEGER:
-        return qint64(sqlite3_column_int64(row, column));
+        return qint64(sqlite3_value_int64(cell));
     case SQLITE_FLOAT:
-        return sqlite3_column_double(row, column);
+        return sqlite3_value_double(cell);
     default:
         const std::string_view text = utf8(column);
         return QString::fromUtf8(text.data(), qsizetype(text.size()));
@@ -126,7 +161,7 @@ std::string_view Recordset::utf8(int column) const
 {
     // The store's connections are used by one thread, so a cell may be asked as it stands; through the row, text and
     // length would each be looked up and checked anew.
-    sqlite3_value *cell = sqlite3_column_value(m_cursor->row(column), column);
+    sqlite3_value *cell = m_cursor->cell(column);
     const auto *text = reinterpret_cast<const char *>(sqlite3_value_text(cell));
     return text ? std::string_view(text, std::size_t(sqlite3_value_bytes(cell))) : std::string_view();
 }

@@ -11,7 +11,8 @@
 namespace zrv {
 
 /// The rows of one SELECT of the store's dialect, read forward. Rows are fetched as they are walked, so a
-/// recordset of any length needs the memory of one row. It keeps its connection's file open as long as it lives.
+/// recordset of any length needs the memory of a few rows. It keeps its connection's file open as long as it lives,
+/// and others from writing to the store while there are more rows to come than four.
 class Recordset {
 public:
     Recordset(const Connection &connection, const QString &select);

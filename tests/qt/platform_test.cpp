@@ -37,6 +37,10 @@ void clickFirst(QMessageBox &box)
 class ModalForm : public TestForm {
 public:
     Button go{*this, u"go"_s, {.caption = u"go"_s}};
+    std::function<bool(UnloadMode)> query;
+
+protected:
+    bool Form_QueryUnload(UnloadMode mode) override { return !query || query(mode); }
 };
 
 } // namespace
@@ -150,6 +154,39 @@ TEST(ModalRun, ItReturnsWhenTheFormCloses)
     platform.runModal(form);
     EXPECT_FALSE(form.isOpen());
     EXPECT_EQ(platform.topWindow(), nullptr);
+}
+
+TEST(ModalRun, TheEndOfTheUsersSessionLeavesEveryNestedRunUnasked)
+{
+    QtPlatform platform;
+    ModalForm outer;
+    ModalForm inner;
+    QList<UnloadMode> asked;
+    outer.query = inner.query = [&](UnloadMode mode) {
+        asked += mode;
+        return true;
+    };
+    outer.go.onClick = [&] {
+        inner.load();
+        platform.runModal(inner);
+    };
+    inner.go.onClick = [&] { platform.messageBox(box::AskYesNo, {}, u"?"_s); };
+    outer.load();
+    const auto click = [&](ModalForm &form) {
+        static_cast<QPushButton *>(platform.windowOf(form)->widgetFor(form.go))->click();
+    };
+    QTimer::singleShot(0, qApp, [&] {
+        QTimer::singleShot(0, qApp, [&] {
+            QTimer::singleShot(0, qApp, [] {
+                QEvent quit(QEvent::Quit);
+                QCoreApplication::sendEvent(qApp, &quit);
+            });
+            click(inner);
+        });
+        click(outer);
+    });
+    EXPECT_THROW(platform.runModal(outer), ProgramEnd);
+    EXPECT_EQ(asked, (QList{UnloadMode::SystemShutdown, UnloadMode::SystemShutdown}));
 }
 
 TEST(ModalRun, TheEndOfTheProgramLeavesEveryNestedRun)

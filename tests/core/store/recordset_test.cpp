@@ -20,6 +20,29 @@ TEST_F(StoreRecordset, RowsAreWalkedForward)
     EXPECT_TRUE(open(u"SELECT SCode FROM ZRVtbCoding WHERE MCode='none'"_s).eof());
 }
 
+TEST_F(StoreRecordset, AFewRowsKeepNobodyFromTheStoreAndManyDo)
+{
+    const auto writes = [this] {
+        try {
+            return Connection(connectionString()).execute(u"UPDATE ZRVtbCoding SET SDesc=SDesc WHERE MCode='9'"_s) == 3;
+        } catch (const RunTimeError &) {
+            return false;
+        }
+    };
+    Recordset few = open(u"SELECT SCode,SDesc,MCode FROM ZRVtbCoding WHERE MCode='9' ORDER BY SCode"_s);
+    EXPECT_TRUE(writes());
+    few.moveNext();
+    EXPECT_EQ(few.value(0).toText(), u"2"_s) << "and they are read on all the same";
+    EXPECT_EQ(few.utf8(2), "9");
+    Recordset many = open(u"SELECT SCode FROM ZRVtbCoding WHERE MCode='4' ORDER BY val(SCode)"_s);
+    EXPECT_FALSE(writes());
+    QStringList months;
+    for (; !many.eof(); many.moveNext())
+        months += many.value(0).toText();
+    EXPECT_EQ(months.join(u' '), u"01 02 03 04 05 06 07 08 09 10 11 12"_s);
+    EXPECT_TRUE(writes());
+}
+
 TEST_F(StoreRecordset, ColumnsAreFoundByNameWithoutCase)
 {
     const Recordset set = open(u"SELECT SCode,SDesc AS Meaning FROM ZRVtbCoding WHERE MCode='9'"_s);
