@@ -142,7 +142,6 @@ def tour(programs, folder):
         program.check_names()
         program.fill("password text", "كلمه عبور", "ADMIN")
         program.press("تاييد")
-        program.press("ورود به برنامه")
         program.press("خير")  # the question of a version not seen before
         program.find("push button", "ليست حقوق")
         seen = program.check_names()
