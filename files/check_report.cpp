@@ -277,10 +277,9 @@ void CheckReport::runPassingOver(ReportWriter &writer, ReportMeasure &measure, c
             return false;
         if (measured == place.state.records)
             return true;
-        const ReportMeasure soFar = measure;
+        before = measure;
         if (!gauge.measureLine(place, goesOn))
             return false;
-        before = soFar;
         measured = place.state.records;
         return true;
     });

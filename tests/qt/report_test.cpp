@@ -91,7 +91,8 @@ TEST_F(Reports, AnotherHeightOfTheWindowOrOfTheLettersIsAnotherPage)
         EXPECT_EQ(view().verticalScrollBar()->maximum(), 100 - view().linesInView());
         EXPECT_EQ(view().verticalScrollBar()->pageStep(), view().linesInView());
     };
-    shown.window.resize(600, 250);
+    // Not the window's: a window manager has its own mind about that.
+    view().setFixedHeight(view().height() / 2);
     QCoreApplication::processEvents();
     const qint64 low = view().linesInView();
     EXPECT_LT(low, before);
