@@ -43,8 +43,8 @@ QSettings userSettings()
 
 } // namespace
 
-/// Hears when the system asks the whole program to end, as at the end of its user's session. Qt would close window after
-/// window as their user does, and wait at the first question.
+/// Hears when the system asks the whole program to end, as when its user logs out of the desktop. Qt would close window
+/// after window as their user does, and wait at the first question.
 class QtPlatform::SystemsEnd : public QObject {
 public:
     explicit SystemsEnd(QtPlatform &platform)

@@ -156,7 +156,7 @@ TEST(ModalRun, ItReturnsWhenTheFormCloses)
     EXPECT_EQ(platform.topWindow(), nullptr);
 }
 
-TEST(ModalRun, TheEndOfTheUsersSessionLeavesEveryNestedRunUnasked)
+TEST(ModalRun, TheUsersLeavingTheDesktopLeavesEveryNestedRunUnasked)
 {
     QtPlatform platform;
     ModalForm outer;
